@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building, running and testing Trelvane need; does nothing when all are there.
+set -euo pipefail
+
+PACKAGES=(
+  build-essential cmake ninja-build pkg-config   # the build
+  libgtest-dev libbenchmark-dev                  # tests and benchmarks
+  clang libclang-rt-14-dev                       # the sanitizer build and the fuzz targets
+)
+
+missing=()
+for package in "${PACKAGES[@]}"; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing+=("$package")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "Installing: ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  apt-get update
+  apt-get install -y --no-install-recommends "${missing[@]}"
+fi

@@ -1,0 +1,10 @@
+#pragma once
+#include <cstdint>
+
+class CGame;
+class IWindow;
+
+// Spins until the window is gone. Each pass handles one pending window event or, when none waits, runs one
+// frame, so a frame that follows a burst of events sees one long delta. There is no limiter and no sleep.
+// Returns the number of frames run.
+uint64_t RunMainLoop(CGame& Game, IWindow& Window);

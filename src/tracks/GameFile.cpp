@@ -1,0 +1,25 @@
+#include "tracks/GameFile.h"
+
+#include "platform/ErrorBox.h"
+#include "platform/Paths.h"
+
+#include <cstdio>
+
+bool OpenGameFile(const char* pFileName, std::ifstream& Stream)
+{
+    const std::string Path = NativePath(pFileName);
+    std::FILE* pFile = std::fopen(Path.c_str(), "r");
+    if(!pFile)
+    {
+        ShowErrorf("ERROR: %s doesn't exist.", pFileName);
+        return false;
+    }
+    std::fclose(pFile);
+    Stream.open(Path, std::ios::in | std::ios::binary);
+    if(!Stream.is_open())
+    {
+        ShowErrorf("ERROR: Couldn't open %s", pFileName);
+        return false;
+    }
+    return true;
+}
