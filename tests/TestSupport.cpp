@@ -41,6 +41,7 @@ CTempFile::CTempFile(const std::string& Contents, const std::string& Name)
     std::string Template = (std::filesystem::temp_directory_path() / "trelvane-test-XXXXXX").string();
     m_Folder = mkdtemp(Template.data());
     m_Path = m_Folder + "/" + Name;
+    std::filesystem::create_directories(std::filesystem::path(m_Path).parent_path());
     std::ofstream(m_Path, std::ios::binary) << Contents;
 }
 

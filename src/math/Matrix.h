@@ -2,32 +2,16 @@
 #include "math/Vector.h"
 
 // Square matrices stored row after row. A vector or point on a matrix is a column on the right.
-template <int N, typename T> class TMatrix
+template <int N, typename T> class TMatrix : public TElements<N * N, T, TMatrix<N, T>>
 {
     static_assert(N >= 2 && N <= 4, "matrices are 2x2 to 4x4");
 
 public:
-    T m_aElem[N * N];
-
-    TMatrix() : m_aElem{} {}
-    template <typename... A, typename = std::enable_if_t<sizeof...(A) == N * N>>
-    explicit TMatrix(A... Elems) : m_aElem{static_cast<T>(Elems)...}
-    {
-    }
+    using TElements<N * N, T, TMatrix>::TElements;
+    using TElements<N * N, T, TMatrix>::m_aElem;
 
     T& At(int Row, int Col) { return m_aElem[Row * N + Col]; }
     T At(int Row, int Col) const { return m_aElem[Row * N + Col]; }
-
-    bool operator==(const TMatrix& B) const
-    {
-        for(int i = 0; i < N * N; i++)
-        {
-            if(m_aElem[i] != B.m_aElem[i])
-                return false;
-        }
-        return true;
-    }
-    bool operator!=(const TMatrix& B) const { return !(*this == B); }
 
     TMatrix operator+(const TMatrix& B) const { return ElementWise<TMatrix>(*this, B, [](T a, T b) { return static_cast<T>(a + b); }); }
     TMatrix operator-(const TMatrix& B) const { return ElementWise<TMatrix>(*this, B, [](T a, T b) { return static_cast<T>(a - b); }); }

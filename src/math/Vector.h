@@ -1,5 +1,7 @@
 #pragma once
 #include <cmath>
+#include <cstddef>
+#include <iterator>
 #include <type_traits>
 
 // Places and displacements are different types: two points give a vector, a point and a vector give a point,
@@ -7,15 +9,15 @@
 
 template <int N, typename T> class TVector;
 
-template <int N, typename T> class TElements
+// The elements of a point, vector or matrix (D, the class built on it), and what all three do alike: index,
+// compare exactly, negate. Comparison takes two of the same class only, so a point never equals a vector.
+template <int Count, typename T, typename D> class TElements
 {
-    static_assert(N >= 2 && N <= 4, "points and vectors have two to four elements");
-
 public:
-    T m_aElem[N];
+    T m_aElem[Count];
 
     TElements() : m_aElem{} {}
-    template <typename... A, typename = std::enable_if_t<sizeof...(A) == N>>
+    template <typename... A, typename = std::enable_if_t<sizeof...(A) == Count>>
     explicit TElements(A... Elems) : m_aElem{static_cast<T>(Elems)...}
     {
     }
@@ -24,21 +26,29 @@ public:
     const T& operator[](int i) const { return m_aElem[i]; }
     T& x() { return m_aElem[0]; }
     T& y() { return m_aElem[1]; }
-    T& z() { static_assert(N >= 3, "no z in two dimensions"); return m_aElem[2]; }
-    T& w() { static_assert(N >= 4, "w exists in four dimensions only"); return m_aElem[3]; }
+    T& z() { static_assert(Count >= 3, "no z in two dimensions"); return m_aElem[2]; }
+    T& w() { static_assert(Count >= 4, "w exists in four dimensions only"); return m_aElem[3]; }
     T x() const { return m_aElem[0]; }
     T y() const { return m_aElem[1]; }
-    T z() const { static_assert(N >= 3, "no z in two dimensions"); return m_aElem[2]; }
-    T w() const { static_assert(N >= 4, "w exists in four dimensions only"); return m_aElem[3]; }
+    T z() const { static_assert(Count >= 3, "no z in two dimensions"); return m_aElem[2]; }
+    T w() const { static_assert(Count >= 4, "w exists in four dimensions only"); return m_aElem[3]; }
 
-    bool Equals(const TElements& Other) const
+    bool operator==(const D& Other) const
     {
-        for(int i = 0; i < N; i++)
+        for(int i = 0; i < Count; i++)
         {
             if(m_aElem[i] != Other.m_aElem[i])
                 return false;
         }
         return true;
+    }
+    bool operator!=(const D& Other) const { return !(*this == Other); }
+    D operator-() const
+    {
+        D Result;
+        for(int i = 0; i < Count; i++)
+            Result.m_aElem[i] = -m_aElem[i];
+        return Result;
     }
 };
 
@@ -46,31 +56,29 @@ public:
 template <typename R, typename A, typename B, typename Op> R ElementWise(const A& a, const B& b, Op Fn)
 {
     R Result;
-    for(int i = 0; i < static_cast<int>(sizeof(Result.m_aElem) / sizeof(Result.m_aElem[0])); i++)
+    for(size_t i = 0; i < std::size(Result.m_aElem); i++)
         Result.m_aElem[i] = Fn(a.m_aElem[i], b.m_aElem[i]);
     return Result;
 }
 
-template <int N, typename T> class TPoint : public TElements<N, T>
+template <int N, typename T> class TPoint : public TElements<N, T, TPoint<N, T>>
 {
-public:
-    using TElements<N, T>::TElements;
+    static_assert(N >= 2 && N <= 4, "points have two to four elements");
 
-    bool operator==(const TPoint& q) const { return this->Equals(q); }
-    bool operator!=(const TPoint& q) const { return !this->Equals(q); }
-    TPoint operator-() const { return ElementWise<TPoint>(*this, *this, [](T e, T) { return -e; }); }
+public:
+    using TElements<N, T, TPoint>::TElements;
+
     TPoint& operator+=(const TVector<N, T>& v) { return *this = *this + v; }
     TPoint& operator-=(const TVector<N, T>& v) { return *this = *this - v; }
 };
 
-template <int N, typename T> class TVector : public TElements<N, T>
+template <int N, typename T> class TVector : public TElements<N, T, TVector<N, T>>
 {
-public:
-    using TElements<N, T>::TElements;
+    static_assert(N >= 2 && N <= 4, "vectors have two to four elements");
 
-    bool operator==(const TVector& v) const { return this->Equals(v); }
-    bool operator!=(const TVector& v) const { return !this->Equals(v); }
-    TVector operator-() const { return ElementWise<TVector>(*this, *this, [](T e, T) { return -e; }); }
+public:
+    using TElements<N, T, TVector>::TElements;
+
     TVector& operator+=(const TVector& v) { return *this = *this + v; }
     TVector& operator-=(const TVector& v) { return *this = *this - v; }
     TVector& operator*=(T s) { return *this = *this * s; }

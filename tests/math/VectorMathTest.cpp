@@ -19,10 +19,7 @@ TEST(VectorMath, PointsAndVectorsCombineOnlyAsPlacesAndDisplacements)
     EXPECT_EQ(q - d, p);
     EXPECT_EQ(p - p, CVector3(0.0f, 0.0f, 0.0f));
     CPoint3 r = p;
-    r += d;
-    EXPECT_EQ(r, q);
-    r -= d;
-    EXPECT_EQ(r, p);
+    EXPECT_EQ(r += d, q);
     EXPECT_EQ(-p, CPoint3(-1.5f, 2.0f, -3.25f));
     EXPECT_NE(p, q);
 }
@@ -47,11 +44,7 @@ TEST(VectorMath, VectorArithmeticLengthAndProducts)
     EXPECT_EQ(u + u - u, u);
     EXPECT_EQ(-u, CVector3(-1, -2, -3));
     CVector3 w = u;
-    w *= 3.0f;
-    w /= 3.0f;
-    w += u;
-    w -= u;
-    EXPECT_EQ(w, u);
+    EXPECT_EQ((w *= 4.0f) /= 2.0f, u * 2.0f);
 
     CVector3 Zero(0, 0, 0);
     Zero.Normalize();
