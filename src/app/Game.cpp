@@ -7,6 +7,8 @@ CGame* g_pGame = nullptr;
 CGame::CGame() : m_nStartTime(timeGetTime())
 {
     m_Level.m_pGraphics = &m_Graphics;
+    m_Graphics.m_pLevel = &m_Level;
+    m_Logic.m_pLevel = &m_Level;
 }
 
 void CGame::Init()
@@ -18,6 +20,18 @@ void CGame::Tick()
 {
     m_Clock.Update(timeGetTime());
     UpdateFireDelay();
+    m_Logic.Tick();
+    if(m_bInGame)
+        m_Graphics.SetupCamera(CGraphicsEngine::NEAR_PLANE, CGraphicsEngine::FAR_PLANE);
+}
+
+void CGame::StartLevel(const char* pFileName)
+{
+    m_Level.Clear();
+    m_Level.Load(pFileName, m_Tracks.m_uiRound);
+    m_bInGame = true;
+    m_Logic.m_bActive = true;
+    m_Level.m_bWon = false;
 }
 
 void CGame::UpdateFireDelay()

@@ -1,6 +1,12 @@
 #pragma once
 #include "app/Clocks.h"
 #include "gfx/GraphicsEngine.h"
+#include "gfx/ParticleSystem.h"
+#include "net/Network.h"
+#include "play/ChainLogic.h"
+#include "play/PlayStats.h"
+#include "powerups/PowerupManager.h"
+#include "sound/SoundEngine.h"
 #include "tracks/Level.h"
 #include "tracks/TrackList.h"
 
@@ -17,9 +23,12 @@ public:
 
     // Brings up the subsystems that need more than construction: today the track list.
     void Init();
-    // One frame, in a fixed order on one frame delta: clock, fire delay, then the rest of the frame.
+    // One frame, in a fixed order on one frame delta: clock, fire delay, play rules, the play frame's camera.
     void Tick();
     void UpdateFireDelay();
+    // Starts a level from its file, as every way into play does: the level is cleared and loaded at the
+    // round of the run, and the rules go active. Score, statistics, shots and colour slots run on.
+    void StartLevel(const char* pFileName);
 
     uint32_t m_nScore = 0;
     bool m_bInGame = false;
@@ -27,7 +36,13 @@ public:
     uint32_t m_nFireDelay = 0; // milliseconds until the next shot is allowed
     uint32_t m_nStartTime;     // start of the logo screen's time-out
     CGraphicsEngine m_Graphics;
+    CSoundEngine m_Sound;
+    CNetwork m_Network;
+    CPlayStats m_Stats;
     CLevel m_Level;
+    CChainLogic m_Logic;
+    CParticleSystem m_Particles;
+    CPowerupManager m_Powerups;
     CTrackList m_Tracks;
     uint32_t m_nMusicIndex = 0;
     bool m_bHasMusic = false;

@@ -1,6 +1,7 @@
 #pragma once
 #include "math/Vector.h"
 
+#include <cstddef>
 #include <cstdint>
 
 enum
@@ -12,6 +13,22 @@ enum
 };
 
 constexpr int NUM_BALL_COLOURS = 6; // red, green, blue, yellow, orange, purple
+constexpr int NUM_COLOURS = NUM_BALL_COLOURS;
+
+// Distances between ball centres or points, each compared strictly less than.
+constexpr float BALL_DIAMETER = 2.76f;      // least spacing of neighbours; a chain rolls this far per interval
+constexpr float LINK_DISTANCE = 2.8979998f; // neighbours nearer than this touch: 1.05 diameters
+constexpr float HIT_DISTANCE = 3.036f;      // a shot nearer than this to a ball hits it: 1.1 diameters
+constexpr float GROUP_DISTANCE = 5.52f;     // neighbours this far apart have room for a ball between them
+constexpr float POINT_SPACING = 0.2f;       // the pusher's distance-to-index divisor
+
+constexpr float SHOT_SPEED = 0.2f; // units for each millisecond
+constexpr uint16_t SHOT_LIFE = 3000;
+constexpr size_t MAX_SHOTS = 20;
+constexpr uint32_t FIRE_DELAY = 500;
+constexpr float RETREAT_SPEED = 0.25f; // points for each millisecond
+constexpr uint32_t BALL_POINTS = 100;
+constexpr uint32_t MIN_RUN = 3;
 
 // One ball: of a chain, a shot in flight, or the hidden pusher of a track. Exactly one list, track or level
 // holds each ball, and the holder frees it.
