@@ -1,0 +1,146 @@
+#include "sim/Autoplay.h"
+
+#include "app/Game.h"
+#include "sim/PlayerInput.h"
+#include "sim/ShotPath.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace
+{
+constexpr float DEGREES_PER_UNIT = 0.25f; // what one unit of turn amount turns the camera by
+constexpr double RADIANS_TO_DEGREES = 57.29577951308232;
+
+enum
+{
+    GAIN_NONE = 0, // another colour: the shot would only lengthen the chain
+    GAIN_PAIR = 1, // a lone ball of the shot's colour: the shot makes a pair
+    GAIN_RUN = 2,  // a ball of the shot's colour touching another: the shot bursts them
+};
+
+struct CTarget
+{
+    const CBall* m_pBall;
+    int m_iGain;
+    float m_fDanger; // how far along its track the ball has come, 0 at the start and 1 at the end
+};
+
+int Gain(const CTrack& Track, std::list<CBall*>::const_iterator itBall, uint8_t ucColour)
+{
+    const CBall& Ball = **itBall;
+    if(Ball.m_ucColour != ucColour)
+        return GAIN_NONE;
+    const bool bRunBack =
+        Ball.m_bLinkBack && itBall != Track.m_lstBalls.begin() && (*std::prev(itBall))->m_ucColour == ucColour;
+    const bool bRunAhead = Ball.m_bLinkAhead && std::next(itBall) != Track.m_lstBalls.end() &&
+                           (*std::next(itBall))->m_ucColour == ucColour;
+    return bRunBack || bRunAhead ? GAIN_RUN : GAIN_PAIR;
+}
+
+// Every ball the colour would do some good on, best first: the larger gain, then the greater danger.
+std::vector<CTarget> RankTargets(const CLevel& Level, uint8_t ucColour)
+{
+    std::vector<CTarget> vTargets;
+    for(const CTrack& Track : Level.m_vTracks)
+    {
+        const float fPoints = static_cast<float>(std::max(Track.m_Spline.m_uiNumPoints, 1u));
+        for(auto it = Track.m_lstBalls.begin(); it != Track.m_lstBalls.end(); ++it)
+        {
+            const int iGain = (*it)->m_ucState == BALL_BURST ? GAIN_NONE : Gain(Track, it, ucColour);
+            if(iGain != GAIN_NONE)
+                vTargets.push_back({*it, iGain, static_cast<float>((*it)->m_uiPoint) / fPoints});
+        }
+    }
+    std::stable_sort(vTargets.begin(), vTargets.end(),
+                     [](const CTarget& a, const CTarget& b)
+                     { return a.m_iGain != b.m_iGain ? a.m_iGain > b.m_iGain : a.m_fDanger > b.m_fDanger; });
+    return vTargets;
+}
+
+// Turn amounts, right and down, that bring the sight from the eye onto a point; the yaw the short way round.
+void TurnAmounts(const CGraphicsEngine& Camera, const CPoint3& Target, float& fRight, float& fDown)
+{
+    const CVector3 v = Target - Camera.m_vEye;
+    const double dYaw = std::atan2(v.x(), v.z()) * RADIANS_TO_DEGREES;
+    const double dPitch = -std::atan2(v.y(), std::hypot(v.x(), v.z())) * RADIANS_TO_DEGREES;
+    double dTurn = std::fmod(dYaw - Camera.m_fYaw, 360.0);
+    if(dTurn > 180.0)
+        dTurn -= 360.0;
+    else if(dTurn < -180.0)
+        dTurn += 360.0;
+    fRight = static_cast<float>(dTurn / DEGREES_PER_UNIT);
+    fDown = static_cast<float>((dPitch - Camera.m_fPitch) / DEGREES_PER_UNIT);
+}
+
+struct CAim
+{
+    int m_iGain = GAIN_NONE;
+    float m_fRight = 0.0f;
+    float m_fDown = 0.0f;
+};
+
+// Tried on a copy of the camera, so that looking costs the player nothing.
+const CBall* PredictAfterTurn(const CGame& Game, const CAim& Aim, uint32_t uiDeltaMs, float fRange)
+{
+    CGraphicsEngine Sight = Game.m_Graphics;
+    TurnBy(Sight, Aim.m_fRight, Aim.m_fDown);
+    return PredictHit(Game.m_Level, Sight, uiDeltaMs, fRange);
+}
+
+// The best target of the colour that a shot would really reach, not stopped first by another ball.
+CAim BestAim(const CGame& Game, uint8_t ucColour, uint32_t uiDeltaMs)
+{
+    for(const CTarget& Target : RankTargets(Game.m_Level, ucColour))
+    {
+        CAim Aim;
+        Aim.m_iGain = Target.m_iGain;
+        TurnAmounts(Game.m_Graphics, Target.m_pBall->m_Position, Aim.m_fRight, Aim.m_fDown);
+        const float fRange = Distance(Game.m_Graphics.m_vEye, Target.m_pBall->m_Position) + HIT_DISTANCE;
+        if(PredictAfterTurn(Game, Aim, uiDeltaMs, fRange) == Target.m_pBall)
+            return Aim;
+    }
+    return {};
+}
+
+bool AnyBallRolls(const CLevel& Level)
+{
+    return std::any_of(Level.m_vTracks.begin(), Level.m_vTracks.end(),
+                       [](const CTrack& Track) { return !Track.m_lstBalls.empty(); });
+}
+
+// A colour that can do no good anywhere is fired where it touches nothing, to get the next one sooner:
+// along the present sight if that is clear, else at the sky or the ground.
+bool AimAtNothing(const CGame& Game, uint32_t uiDeltaMs, CAim& Aim)
+{
+    const float fRange = static_cast<float>(SHOT_LIFE) * SHOT_SPEED;
+    for(float fDown : {0.0f, -360.0f, 360.0f})
+    {
+        Aim.m_fDown = fDown;
+        if(PredictAfterTurn(Game, Aim, uiDeltaMs, fRange) == nullptr)
+            return true;
+    }
+    return false;
+}
+} // namespace
+
+uint32_t CAutoplay::Play(CGame& Game) const
+{
+    if(Game.m_nFireDelay != 0 || !Game.m_Logic.m_bActive || !AnyBallRolls(Game.m_Level))
+        return 0;
+    CAim Aim = BestAim(Game, Game.m_Level.m_ucShotColour, m_uiDeltaMs);
+    if(Aim.m_iGain != GAIN_RUN)
+    {
+        const CAim Next = BestAim(Game, Game.m_Level.m_ucNextColour, m_uiDeltaMs);
+        if(Next.m_iGain > Aim.m_iGain)
+        {
+            Game.m_Logic.SwapColours();
+            Aim = Next;
+        }
+    }
+    if(Aim.m_iGain == GAIN_NONE && !AimAtNothing(Game, m_uiDeltaMs, Aim))
+        return 0;
+    TurnBy(Game.m_Graphics, Aim.m_fRight, Aim.m_fDown);
+    return FireShot(Game) ? 1 : 0;
+}
