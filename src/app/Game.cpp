@@ -23,10 +23,12 @@ void CGame::Tick()
     m_Logic.Tick();
     if(m_bInGame)
         m_Graphics.SetupCamera(CGraphicsEngine::NEAR_PLANE, CGraphicsEngine::FAR_PLANE);
+    m_Powerups.Update();
 }
 
 void CGame::StartLevel(const char* pFileName)
 {
+    m_Graphics.m_nScreenState = SCREEN_PLAY;
     m_Level.Clear();
     m_Level.Load(pFileName, m_Tracks.m_uiRound);
     m_bInGame = true;

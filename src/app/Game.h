@@ -1,5 +1,6 @@
 #pragma once
 #include "app/Clocks.h"
+#include "app/ScreenFlow.h"
 #include "gfx/GraphicsEngine.h"
 #include "gfx/ParticleSystem.h"
 #include "net/Network.h"
@@ -23,7 +24,8 @@ public:
 
     // Brings up the subsystems that need more than construction: today the track list.
     void Init();
-    // One frame, in a fixed order on one frame delta: clock, fire delay, play rules, the play frame's camera.
+    // One frame, in a fixed order on one frame delta: clock, fire delay, play rules, the play frame's camera,
+    // powerup timers.
     void Tick();
     void UpdateFireDelay();
     // Starts a level from its file, as every way into play does: the level is cleared and loaded at the
@@ -43,6 +45,7 @@ public:
     CChainLogic m_Logic;
     CParticleSystem m_Particles;
     CPowerupManager m_Powerups;
+    CScreenFlow m_Flow;
     CTrackList m_Tracks;
     uint32_t m_nMusicIndex = 0;
     bool m_bHasMusic = false;

@@ -29,3 +29,22 @@ void CPowerupManager::PushLetter(char cLetter)
     if(m_nStackCount < POWERUP_STACK_SIZE)
         m_acStack[m_nStackCount++] = cLetter;
 }
+
+// The effect runs before the letters move up, so that EMPTY leaves nothing behind it.
+void CPowerupManager::UsePowerup()
+{
+    if(m_nStackCount == 0)
+        return;
+    g_pGame->m_Sound.PlaySound(SOUND_POWER);
+    m_nStackCount--;
+    const CPowerupInfo* pInfo = FindPowerup(m_acStack[0]);
+    if(pInfo && pInfo->m_pfnEffect)
+        (this->*pInfo->m_pfnEffect)();
+    PopLetter();
+}
+
+void CPowerupManager::PopLetter()
+{
+    std::memmove(m_acStack, m_acStack + 1, POWERUP_STACK_SIZE - 1);
+    m_acStack[POWERUP_STACK_SIZE - 1] = ' ';
+}

@@ -1,14 +1,17 @@
 #pragma once
 #include <cstdint>
 
-// The ten powerups: the one table that the stack, the HUD and the network all read.
+class CPowerupManager;
+
+// The ten powerups: the one table that the stack, the effects, the HUD and the network all read.
 struct CPowerupInfo
 {
     char m_cLetter;
     const char* m_pName;
     const char* m_pDescription;
     uint32_t m_uiMessageType;
-    int m_iSingleRoll; // which roll of five earns it in single play; -1 never
+    int m_iSingleRoll;                    // which roll of five earns it in single play; -1 never
+    void (CPowerupManager::*m_pfnEffect)(); // what it does to the own level; null for none
 };
 
 constexpr int NUM_POWERUPS = 10;            // also the rolls of a network game, in table order
