@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 #include "tools/SimSupport.h"
+#include "tracks/TrackList.h"
 
 #include <gtest/gtest.h>
 
@@ -119,7 +120,7 @@ TEST(Simulator, ScriptMistakesStopTheRunNamingTheLine)
     ExpectOneLineError(Run);
     EXPECT_NE(Run.m_Output.find(":3:"), std::string::npos) << Run.m_Output;
 
-    for(const char* pLine : {"0 aim 10", "0 aim 400 0", "x fire", "0 turn 1 y", "0 forward -1", "7 power"})
+    for(const char* pLine : {"0 aim 10", "0 aim 400 0", "x fire", "0 turn 1 y", "0 forward -1", "7 power 9", "7 power 1 2"})
     {
         CTempFile Bad(std::string(pLine) + "\n", "bad.txt");
         ExpectOneLineError(Simulate(std::string(FIRST_LEVEL) + " --script " + Bad.Path()));
@@ -188,3 +189,24 @@ TEST(Simulator, AutoplayClearsTheFirstLevelTheSameWayEachTime)
     EXPECT_EQ(Simulate(Arguments).m_Output, Run.m_Output);
 }
 
+
+// A combo puts a powerup on a ball; bursting it earns the letter, and the power key spends it.
+TEST(Simulator, ScriptedPowerKeysSpendWhatCombosEarn)
+{
+    CTrackList List;
+    ASSERT_TRUE(List.Load(TRACK_LIST_FILE));
+    std::string Script;
+    for(int iFrame = 0; iFrame < 20000; iFrame++)
+        Script += std::to_string(iFrame) + " power\n";
+    CTempFile ScriptFile(Script, "power.txt");
+    bool bEarnedAndSpent = false;
+    for(const std::string& Level : List.m_vFiles)
+    {
+        const CCommandResult Run = Simulate("'" + Level + "' --autoplay --script " + ScriptFile.Path());
+        ASSERT_EQ(Run.m_iExitCode, 0) << Run.m_Output;
+        EXPECT_LE(Field(Run.m_Output, "powerups_used"), Field(Run.m_Output, "powerups_earned")) << Run.m_Output;
+        bEarnedAndSpent |= Field(Run.m_Output, "powerups_earned") >= 1 && Field(Run.m_Output, "powerups_used") >= 1 &&
+                           Run.m_Output.find("\"stack\":\"\"") != std::string::npos;
+    }
+    EXPECT_TRUE(bEarnedAndSpent) << "no shipped level earned a powerup under autoplay";
+}

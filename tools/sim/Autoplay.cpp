@@ -3,6 +3,7 @@
 #include "app/Game.h"
 #include "sim/PlayerInput.h"
 #include "sim/ShotPath.h"
+#include "sim/SimReport.h"
 
 #include <algorithm>
 #include <cmath>
@@ -123,12 +124,45 @@ bool AimAtNothing(const CGame& Game, uint32_t uiDeltaMs, CAim& Aim)
     }
     return false;
 }
+// How far the most advanced ball of any track has come, 0 at the start and 1 at the end.
+float Danger(const CLevel& Level)
+{
+    float fDanger = 0.0f;
+    for(const CTrack& Track : Level.m_vTracks)
+    {
+        if(!Track.m_lstBalls.empty() && Track.m_Spline.m_uiNumPoints > 0)
+            fDanger = std::max(fDanger, static_cast<float>(Track.m_lstBalls.back()->m_uiPoint) /
+                                            static_cast<float>(Track.m_Spline.m_uiNumPoints));
+    }
+    return fDanger;
+}
+
+// HALT, CLEAR and MAKE always help. A slowing ends with every track at 300 ms a ball, and an exchange of
+// colours is a gamble, so those go when the chains are close to their ends or to make room on a full stack.
+bool WorthSpending(const CGame& Game)
+{
+    const CPowerupManager& Powerups = Game.m_Powerups;
+    if(Powerups.m_nStackCount == 0 || !AnyBallRolls(Game.m_Level))
+        return false;
+    const char cOldest = Powerups.m_acStack[0];
+    if(cOldest == 'H' || cOldest == 'C' || cOldest == 'M')
+        return true;
+    return Powerups.m_nStackCount == POWERUP_STACK_SIZE || Danger(Game.m_Level) > 0.8f;
+}
 } // namespace
 
-uint32_t CAutoplay::Play(CGame& Game) const
+void CAutoplay::Play(CGame& Game, CRunCount& Count) const
 {
-    if(Game.m_nFireDelay != 0 || !Game.m_Logic.m_bActive || !AnyBallRolls(Game.m_Level))
-        return 0;
+    if(!Game.m_Logic.m_bActive)
+        return;
+    if(WorthSpending(Game) && PressPowerupKey(Game, ' '))
+        Count.m_ulPowerupsUsed++;
+    if(Game.m_nFireDelay == 0 && AnyBallRolls(Game.m_Level))
+        Count.m_ulShotsFired += AimAndFire(Game) ? 1 : 0;
+}
+
+bool CAutoplay::AimAndFire(CGame& Game) const
+{
     CAim Aim = BestAim(Game, Game.m_Level.m_ucShotColour, m_uiDeltaMs);
     if(Aim.m_iGain != GAIN_RUN)
     {
@@ -140,7 +174,7 @@ uint32_t CAutoplay::Play(CGame& Game) const
         }
     }
     if(Aim.m_iGain == GAIN_NONE && !AimAtNothing(Game, m_uiDeltaMs, Aim))
-        return 0;
+        return false;
     TurnBy(Game.m_Graphics, Aim.m_fRight, Aim.m_fDown);
-    return FireShot(Game) ? 1 : 0;
+    return FireShot(Game);
 }

@@ -32,3 +32,10 @@ bool FireShot(CGame& Game)
     Game.m_Logic.Fire();
     return Game.m_Level.m_lstShots.size() > Before;
 }
+
+bool PressPowerupKey(CGame& Game, char cKey)
+{
+    const uint32_t uiBefore = Game.m_Powerups.m_nStackCount;
+    Game.m_Flow.OnChar(cKey);
+    return Game.m_Powerups.m_nStackCount < uiBefore;
+}

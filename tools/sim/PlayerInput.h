@@ -13,3 +13,5 @@ void TurnBy(CGraphicsEngine& Camera, float fRight, float fDown);
 void TurnByMouse(CGame& Game, int iDeltaX, int iDeltaY);
 // Pulls the trigger; true when a shot really left, which the fire delay and the shot limit can prevent.
 bool FireShot(CGame& Game);
+// Presses a powerup key (blank for the player's own level, or a player's number); true when a letter was spent.
+bool PressPowerupKey(CGame& Game, char cKey);

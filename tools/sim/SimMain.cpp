@@ -68,11 +68,14 @@ CRunCount RunLevel(CGame& Game, const CRun& Run)
     Count.m_uiDeltaMs = Run.m_Options.m_uiDeltaMs;
     while(Count.m_ulFrames < Run.m_Options.m_ulFrames && Game.m_Logic.m_bActive)
     {
-        Count.m_ulShotsFired += Run.m_Script.Apply(Count.m_ulFrames, Game);
+        Run.m_Script.Apply(Count.m_ulFrames, Game, Count);
         if(Run.m_Options.m_bAutoplay)
-            Count.m_ulShotsFired += Player.Play(Game);
+            Player.Play(Game, Count);
         AdvanceManualClock(Run.m_Options.m_uiDeltaMs);
-        Game.Tick();
+        const uint32_t uiStackBefore = Game.m_Powerups.m_nStackCount;
+        Game.Tick(); // a tick can only add letters: the keys spend them between ticks
+        if(Game.m_Powerups.m_nStackCount > uiStackBefore)
+            Count.m_ulPowerupsEarned += Game.m_Powerups.m_nStackCount - uiStackBefore;
         if(Run.m_pTrace)
             WriteTraceFrame(*Run.m_pTrace, Count.m_ulFrames, Game);
         Count.m_ulFrames++;

@@ -14,7 +14,7 @@ const char* const SIM_HELP =
     "  --frames N     stop after N frames (default: when the level ends, at most 2000000 frames)\n"
     "  --round R      round of the run, which speeds the chains up (default 1)\n"
     "  --script FILE  player actions, one a line: FRAME aim YAW PITCH | turn DX DY | fire | swap | path |\n"
-    "                 forward N | back N\n"
+    "                 forward N | back N | power [PLAYER]\n"
     "  --autoplay     aim and fire as a player would\n"
     "  --trace FILE   write every frame's balls and shots as one line of JSON each\n"
     "  --help         show this text\n";

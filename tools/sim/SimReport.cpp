@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <string>
 
 namespace
 {
@@ -72,7 +73,10 @@ void WriteSummary(std::ostream& Stream, const CGame& Game, const CRunCount& Coun
     Stream << "{\"outcome\":\"" << Outcome(Game) << "\",\"frames\":" << Count.m_ulFrames
            << ",\"ms\":" << Count.m_ulFrames * Count.m_uiDeltaMs << ",\"score\":" << Game.m_nScore
            << ",\"balls_on_tracks\":" << ulRolling << ",\"balls_queued\":" << ulQueued
-           << ",\"shots_fired\":" << Count.m_ulShotsFired << ",\"stats\":{\"triples\":" << Stats.m_nTriples
+           << ",\"shots_fired\":" << Count.m_ulShotsFired << ",\"powerups_earned\":" << Count.m_ulPowerupsEarned
+           << ",\"powerups_used\":" << Count.m_ulPowerupsUsed << ",\"stack\":\""
+           << std::string(Game.m_Powerups.m_acStack, Game.m_Powerups.m_nStackCount)
+           << "\",\"stats\":{\"triples\":" << Stats.m_nTriples
            << ",\"chains\":" << Stats.m_nChains << ",\"max_chain\":" << Stats.m_nMaxChain
            << ",\"combos\":" << Stats.m_nCombos << ",\"max_combo\":" << Stats.m_nMaxCombo << "}}\n";
 }

@@ -10,6 +10,8 @@ struct CRunCount
     uint64_t m_ulFrames = 0;
     uint32_t m_uiDeltaMs = 0;
     uint64_t m_ulShotsFired = 0;
+    uint64_t m_ulPowerupsEarned = 0; // letters that reached the stack
+    uint64_t m_ulPowerupsUsed = 0;
 };
 
 // The result of a run as one line of JSON: outcome, time, score, what is left and the results-screen counters.

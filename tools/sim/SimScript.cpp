@@ -3,6 +3,7 @@
 #include "app/Game.h"
 #include "sim/PlayerInput.h"
 #include "sim/SimParse.h"
+#include "sim/SimReport.h"
 
 #include <algorithm>
 #include <fstream>
@@ -20,7 +21,7 @@ struct CActionName
 const CActionName ACTIONS[] = {
     {"aim", ESimAction::Aim, 2},   {"turn", ESimAction::Turn, 2}, {"fire", ESimAction::Fire, 0},
     {"swap", ESimAction::Swap, 0}, {"path", ESimAction::Path, 0}, {"forward", ESimAction::Forward, 1},
-    {"back", ESimAction::Back, 1},
+    {"back", ESimAction::Back, 1},   {"power", ESimAction::Power, 0},
 };
 
 // The angles a player can hold: the turns keep the yaw within a circle and the pitch short of straight.
@@ -48,6 +49,14 @@ bool ParseArgs(ESimAction Action, const std::vector<std::string>& vArgs, double*
             return false;
         std::copy(aiCounts, aiCounts + 2, pArgs);
         return true;
+    case ESimAction::Power: // the key of a player's number, 0 to 8, as the keyboard has them
+        if(vArgs.empty())
+            return true;
+        if(!ParseUnsigned(vArgs[0], 8, ulSteps))
+            return false;
+        pArgs[0] = static_cast<double>(ulSteps);
+        pArgs[1] = 1.0;
+        return true;
     case ESimAction::Forward:
     case ESimAction::Back:
         if(!ParseUnsigned(vArgs[0], UINT32_MAX, ulSteps))
@@ -58,7 +67,13 @@ bool ParseArgs(ESimAction Action, const std::vector<std::string>& vArgs, double*
     }
 }
 
-void ApplyStep(const CScriptStep& Step, CGame& Game, uint32_t& uiShots)
+// Blank for the player's own level, else the digit of the player's number.
+char PowerKey(const double* pArgs)
+{
+    return pArgs[1] != 0.0 ? static_cast<char>('0' + static_cast<int>(pArgs[0])) : ' ';
+}
+
+void ApplyStep(const CScriptStep& Step, CGame& Game, CRunCount& Count)
 {
     const double* pArgs = Step.m_adArgs;
     switch(Step.m_Action)
@@ -69,7 +84,8 @@ void ApplyStep(const CScriptStep& Step, CGame& Game, uint32_t& uiShots)
         Game.m_Graphics.UpdateLookAt();
         break;
     case ESimAction::Turn: TurnByMouse(Game, static_cast<int>(pArgs[0]), static_cast<int>(pArgs[1])); break;
-    case ESimAction::Fire: uiShots += FireShot(Game) ? 1 : 0; break;
+    case ESimAction::Fire: Count.m_ulShotsFired += FireShot(Game) ? 1 : 0; break;
+    case ESimAction::Power: Count.m_ulPowerupsUsed += PressPowerupKey(Game, PowerKey(pArgs)) ? 1 : 0; break;
     case ESimAction::Swap: Game.m_Logic.SwapColours(); break;
     case ESimAction::Path: Game.m_Level.NextCameraPath(); break;
     case ESimAction::Forward: Game.m_Level.MoveForward(static_cast<uint32_t>(pArgs[0])); break;
@@ -87,14 +103,13 @@ bool ParseScriptLine(const std::string& Line, CScriptStep& Step, std::string& Er
         vArgs.push_back(Word);
     if(!ParseUnsigned(Frame, UINT64_MAX, Step.m_ulFrame) || Name.empty())
         return Reject(Error, "expected FRAME ACTION [ARGS]");
-    if(Name == "power")
-        return Reject(Error, "power: powerups are not available yet");
     const auto itName = std::find_if(std::begin(ACTIONS), std::end(ACTIONS),
                                      [&Name](const CActionName& Action) { return Name == Action.m_pName; });
     if(itName == std::end(ACTIONS))
         return Reject(Error, "unknown action '" + Name + "'");
     Step.m_Action = itName->m_Action;
-    if(vArgs.size() != itName->m_ArgCount || !ParseArgs(Step.m_Action, vArgs, Step.m_adArgs))
+    const bool bArgCount = vArgs.size() == itName->m_ArgCount || (Step.m_Action == ESimAction::Power && vArgs.size() == 1);
+    if(!bArgCount || !ParseArgs(Step.m_Action, vArgs, Step.m_adArgs))
         return Reject(Error, "bad arguments for " + Name);
     return true;
 }
@@ -123,13 +138,11 @@ bool CSimScript::Load(const std::string& FileName, std::string& Error)
     return true;
 }
 
-uint32_t CSimScript::Apply(uint64_t ulFrame, CGame& Game)
+void CSimScript::Apply(uint64_t ulFrame, CGame& Game, CRunCount& Count)
 {
-    uint32_t uiShots = 0;
     for(; m_Next < m_vSteps.size() && m_vSteps[m_Next].m_ulFrame <= ulFrame; m_Next++)
     {
         if(m_vSteps[m_Next].m_ulFrame == ulFrame)
-            ApplyStep(m_vSteps[m_Next], Game, uiShots);
+            ApplyStep(m_vSteps[m_Next], Game, Count);
     }
-    return uiShots;
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 class CGame;
+struct CRunCount;
 
 enum class ESimAction
 {
@@ -14,6 +15,7 @@ enum class ESimAction
     Path,    // on to the next camera path
     Forward, // steps along the camera path
     Back,
+    Power, // spends the oldest powerup letter, on the player's own level or a player's number
 };
 
 struct CScriptStep
@@ -29,9 +31,9 @@ class CSimScript
 public:
     // Reads a whole script before the run starts, so that a mistake anywhere stops it before frame 0.
     bool Load(const std::string& FileName, std::string& Error);
-    // Does what the script asks before the given frame; frames must come in increasing order. Returns how
-    // many shots really left.
-    uint32_t Apply(uint64_t ulFrame, CGame& Game);
+    // Does what the script asks before the given frame; frames must come in increasing order. Counts the
+    // shots that really left and the powerups really spent.
+    void Apply(uint64_t ulFrame, CGame& Game, CRunCount& Count);
 
 private:
     std::vector<CScriptStep> m_vSteps; // in frame order
