@@ -92,7 +92,9 @@ TEST_F(PowerupEffects, ColourEffectsChangeColoursButNotTheCounts)
         for(size_t i = 0; i < Before.size(); i++)
         {
             if(Before[i] != After[i])
-                ASSERT_EQ(After.find(Before[i]), std::string::npos) << "all of the old colour is replaced";
+            {
+                    ASSERT_EQ(After.find(Before[i]), std::string::npos) << "all of the old colour is replaced";
+            }
         }
     }
     m_Powerups.ApplyRandom();
