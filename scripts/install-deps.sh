@@ -6,6 +6,9 @@ PACKAGES=(
   build-essential cmake ninja-build pkg-config   # the build
   libgtest-dev libbenchmark-dev                  # tests and benchmarks
   clang libclang-rt-14-dev                       # the sanitizer build and the fuzz targets
+  libsdl2-dev libsdl2-mixer-dev libsdl2-image-dev libsdl2-ttf-dev fonts-dejavu-core   # the platform layer
+  libgl1 libgl1-mesa-dri libglx-mesa0 libegl1 libegl-mesa0                          # OpenGL at run time
+  lame                                           # encodes the generated music
 )
 
 missing=()

@@ -1,0 +1,1 @@
+target_sources(trelvane_platform PRIVATE platform/SdlAudio.cpp)

@@ -1,0 +1,4 @@
+target_sources(trelvane_platform PRIVATE
+  platform/SdlInput.cpp
+  platform/ScancodeTable.cpp
+)

@@ -1,0 +1,37 @@
+#pragma once
+#include "platform/Window.h"
+
+#include <functional>
+#include <vector>
+
+union SDL_Event;
+struct SDL_Window;
+
+// The game's one window: undecorated and full screen, with an OpenGL 2.1 context. Its events are handed one
+// at a time to whoever listens (the input devices, the typed-character handler) and a quit request closes it.
+class CSdlWindow : public IWindow
+{
+public:
+    typedef std::function<void(const SDL_Event&)> CEventListener;
+
+    ~CSdlWindow() override;
+    // Opens the window; false, with the reason in pError, when no window or no GL context can be had.
+    bool Create(const char* pTitle, const char** ppError);
+    bool IsOpen() const override;
+    bool HandleOneEvent() override;
+    void Destroy() override;
+    void SetCharHandler(std::function<void(char)> fnOnChar) override;
+
+    void AddListener(CEventListener fnListener);
+    void SwapBuffers();
+    // The size of the drawable area in pixels, which the 800x600 picture is scaled into.
+    void GetDrawableSize(int& iWidth, int& iHeight) const;
+
+private:
+    void TypeCharacters(const SDL_Event& Event);
+
+    SDL_Window* m_pWindow = nullptr;
+    void* m_pContext = nullptr;
+    std::vector<CEventListener> m_vListeners;
+    std::function<void(char)> m_fnOnChar;
+};

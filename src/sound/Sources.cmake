@@ -1,0 +1,1 @@
+target_sources(trelvane_core PRIVATE sound/FolderSearch.cpp)

@@ -1,0 +1,43 @@
+// The menus' buttons. Each picture has exactly the size of the button's hot rectangle, so that what lights
+// up under the mouse is what reacts to a click.
+#include "Catalogue.h"
+#include "Widgets.h"
+
+namespace art {
+
+namespace {
+
+struct ButtonLook {
+    const char *name; // the file names are name + "1.png" and name + "2.png" (lit)
+    int width, height;
+    const char *label;
+    int labelSize;
+};
+
+const ButtonLook kButtons[] = {
+    {"Single_Player", 244, 37, "Single Player", 18},
+    {"Multi_Player", 244, 37, "Multi Player", 18},
+    {"Spline_Editor", 244, 37, "Spline Editor", 18},
+    {"Options", 152, 37, "Options", 18},
+    {"Quit", 85, 37, "Quit", 18},
+    {"credits", 140, 27, "Credits", 14},
+    {"return_to_main", 343, 33, "Return to Main Menu", 17},
+    {"start", 173, 78, "Start", 30},
+    {"connect_client", 291, 38, "Join as Client", 18},
+    {"connect_server", 291, 38, "Host as Server", 18},
+};
+
+} // namespace
+
+Pictures buttonPictures()
+{
+    Pictures out;
+    for (const ButtonLook &b : kButtons)
+        for (Lit lit : {Lit::No, Lit::Yes}) {
+            std::string file = std::string(b.name) + (lit == Lit::Yes ? "2.png" : "1.png");
+            out.push_back(inMenus(file, [b, lit] { return button(b.width, b.height, b.label, lit, b.labelSize); }));
+        }
+    return out;
+}
+
+} // namespace art
