@@ -1,19 +1,12 @@
 #include "math/BSpline.h"
 
+#include "math/FloatBits.h"
+
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace
 {
-// The constants are fixed by their bit patterns so that every machine builds the same rails.
-float FloatFromBits(uint32_t uiBits)
-{
-    float f;
-    std::memcpy(&f, &uiBits, sizeof(f));
-    return f;
-}
-
 const float PARAMETER_STEP = FloatFromBits(0x3DCCCCCD); // 0.1
 const float POINT_SPACING = FloatFromBits(0x3E4CCCCD);  // 0.2
 

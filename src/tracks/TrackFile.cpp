@@ -1,6 +1,7 @@
 #include "tracks/TrackFile.h"
 
 #include "gfx/GraphicsEngine.h"
+#include "math/FloatBits.h"
 #include "platform/ErrorBox.h"
 #include "tracks/GameFile.h"
 #include "tracks/Level.h"
@@ -11,14 +12,7 @@
 
 namespace
 {
-// 0.83 as the single-precision constant of the bit pattern 0x3F547AE1, so that every machine scales alike.
-float RoundFactor()
-{
-    const uint32_t uiBits = 0x3F547AE1;
-    float f;
-    std::memcpy(&f, &uiBits, sizeof(f));
-    return f;
-}
+const float ROUND_FACTOR = FloatFromBits(0x3F547AE1); // 0.83
 
 bool IsSpace(int c)
 {
@@ -39,7 +33,7 @@ uint32_t ScaleInterval(uint32_t uiFileValue, uint32_t uiRound)
 {
     const float fValue = static_cast<float>(uiFileValue);
     const float fRound = static_cast<float>(uiRound);
-    const double dScaled = static_cast<double>(fValue) * std::pow(static_cast<double>(RoundFactor()), fRound);
+    const double dScaled = static_cast<double>(fValue) * std::pow(static_cast<double>(ROUND_FACTOR), fRound);
     return dScaled >= 4294967295.0 ? UINT32_MAX : static_cast<uint32_t>(dScaled);
 }
 
