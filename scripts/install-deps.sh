@@ -9,6 +9,7 @@ PACKAGES=(
   libsdl2-dev libsdl2-mixer-dev libsdl2-image-dev libsdl2-ttf-dev fonts-dejavu-core   # the platform layer
   libgl1 libgl1-mesa-dri libglx-mesa0 libegl1 libegl-mesa0                          # OpenGL at run time
   lame                                           # encodes the generated music
+  xvfb xauth xdotool                             # the real game under a virtual display, driven by synthetic input
 )
 
 missing=()

@@ -1,8 +1,11 @@
 #include "app/Game.h"
 
+#include "gfx/Fonts.h"
 #include "platform/Clock.h"
+#include "platform/ErrorBox.h"
 
 CGame* g_pGame = nullptr;
+IWindow* g_pWindow = nullptr;
 
 CGame::CGame() : m_nStartTime(timeGetTime())
 {
@@ -11,9 +14,29 @@ CGame::CGame() : m_nStartTime(timeGetTime())
     m_Logic.m_pLevel = &m_Level;
 }
 
-void CGame::Init()
+bool CGame::Init()
 {
-    m_Tracks.Load(TRACK_LIST_FILE);
+    if(!m_Graphics.Init())
+    {
+        ShowError("Failed to initialize Graphics Engine");
+        return false;
+    }
+    // Without sound the track list stays unread: the game runs on with no levels to play.
+    if(m_Sound.Init())
+        m_Tracks.Load(TRACK_LIST_FILE);
+    return true;
+}
+
+bool StartGame(CGame& Game)
+{
+    if(!Game.Init())
+        return false;
+    InitFonts();
+    Game.m_Sound.LoadSounds();
+    Game.m_bHasMusic = Game.m_Sound.ScanMusic();
+    if(Game.m_bHasMusic && !Game.m_Sound.m_vMusicFiles.empty())
+        Game.m_Sound.PlayMusic(Game.m_Sound.m_vMusicFiles[0], false);
+    return true;
 }
 
 void CGame::Tick()
@@ -22,11 +45,20 @@ void CGame::Tick()
     UpdateFireDelay();
     m_Logic.Tick();
     if(m_bInGame)
-        m_Graphics.SetupCamera(CGraphicsEngine::NEAR_PLANE, CGraphicsEngine::FAR_PLANE);
+        m_Graphics.RenderPlayFrame();
+    else
+        m_Graphics.RenderMenuFrame();
     m_Powerups.Update();
+    m_Sound.Update(m_bHasMusic, m_nMusicIndex);
 }
 
 void CGame::StartLevel(const char* pFileName)
+{
+    m_Tracks.m_uiCurrentFile = 0;
+    PlayLevel(pFileName);
+}
+
+void CGame::PlayLevel(const char* pFileName)
 {
     m_Graphics.m_nScreenState = SCREEN_PLAY;
     m_Level.Clear();

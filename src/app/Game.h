@@ -22,15 +22,19 @@ public:
     CGame(const CGame&) = delete;
     CGame& operator=(const CGame&) = delete;
 
-    // Brings up the subsystems that need more than construction: today the track list.
-    void Init();
-    // One frame, in a fixed order on one frame delta: clock, fire delay, play rules, the play frame's camera,
-    // powerup timers.
+    // Brings up graphics, sound and the track list; false, after telling the player, when there is no
+    // graphics device.
+    bool Init();
+    // One frame, in a fixed order on one frame delta: clock, fire delay, play rules, drawing, powerup
+    // timers, the music playlist.
     void Tick();
     void UpdateFireDelay();
-    // Starts a level from its file, as every way into play does: the level is cleared and loaded at the
-    // round of the run, and the rules go active. Score, statistics, shots and colour slots run on.
+    // The common tail of a level's start from the menus, the lobby or the host's start message: the file
+    // counter goes back to 0 whatever the file, as a chosen track only names the file; then PlayLevel.
     void StartLevel(const char* pFileName);
+    // The play screen, the level cleared and loaded at the round of the run, and the rules active. Score,
+    // statistics, shots and colour slots run on; a file that can't be loaded leaves an empty level in play.
+    void PlayLevel(const char* pFileName);
 
     uint32_t m_nScore = 0;
     bool m_bInGame = false;
@@ -51,5 +55,12 @@ public:
     bool m_bHasMusic = false;
 };
 
+// The start-up after the window exists: Init, then the fonts, the sounds and the first piece of music.
+// False when the game can't run for want of a graphics device.
+bool StartGame(CGame& Game);
+
+class IWindow;
 // Set once the game is built; nothing constructed inside the game may use it.
 extern CGame* g_pGame;
+// The game's window, which the Escape key closes.
+extern IWindow* g_pWindow;

@@ -1,27 +1,62 @@
 #include "app/Game.h"
 #include "app/MainLoop.h"
+#include "gfx/Fonts.h"
+#include "input/Input.h"
 #include "platform/Clock.h"
-#include "platform/HeadlessWindow.h"
+#include "platform/ErrorBox.h"
+#include "platform/GlRenderDevice.h"
+#include "platform/SdlAudio.h"
+#include "platform/SdlInput.h"
+#include "platform/SdlWindow.h"
 
 #include <cstdio>
 #include <cstdlib>
 
+namespace
+{
+// Builds the game on the window's devices, runs it until the window closes and takes it down in reverse.
+int RunGame(CSdlWindow& Window)
+{
+    CSdlAudio Audio;
+    CGlRenderDevice Device;
+    CGame Game;
+    g_pGame = &Game;
+    g_pWindow = &Window;
+    Game.m_Sound.m_pAudio = &Audio;
+    Game.m_Graphics.m_fnOpenDevice = [&Device, &Window]() -> IRenderDevice* {
+        return Device.Init(Window) ? &Device : nullptr;
+    };
+    Window.SetCharHandler([&Game](char cCharacter) { Game.m_Flow.OnChar(cCharacter); });
+    const bool bStarted = StartGame(Game);
+    if(bStarted)
+        RunMainLoop(Game, Window);
+    // What the window's end lets go of: the input devices and the fonts.
+    ReleaseMouse();
+    ReleaseKeyboard();
+    ReleaseInput();
+    ReleaseFonts();
+    g_pWindow = nullptr;
+    g_pGame = nullptr;
+    return bStarted ? 0 : -1;
+}
+} // namespace
+
 int main()
 {
     std::srand(timeGetTime()); // the one seeding: every rand of the game draws from this sequence
-
-    CHeadlessWindow Window;
-    CGame Game;
-    g_pGame = &Game;
-    Game.Init();
-
-    std::printf("Trelvane: %u levels in the track list. No window yet: the frame loop runs headless; "
-                "Ctrl+C quits.\n",
-                Game.m_Tracks.m_uiNumFiles);
-    std::fflush(stdout);
-    const uint64_t ulFrames = RunMainLoop(Game, Window);
-    std::printf("Trelvane: %llu frames run.\n", static_cast<unsigned long long>(ulFrames));
-
-    g_pGame = nullptr;
-    return 0;
+    CSdlWindow Window;
+    const char* pReason = "";
+    if(!Window.Create("Trelvane", &pReason))
+    {
+        std::fprintf(stderr, "Trelvane: %s\n", pReason);
+        ShowErrorInMessageBox("CreateWindow (for main window) failed");
+        return 0;
+    }
+    SetErrorHandler(ShowErrorInMessageBox);
+    CSdlInput Input;
+    Input.Listen(Window);
+    InitInput();
+    CreateKeyboard(&Input);
+    CreateMouse(&Input);
+    return RunGame(Window);
 }

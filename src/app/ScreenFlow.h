@@ -7,10 +7,16 @@ extern bool g_bChatOpen;
 class CScreenFlow
 {
 public:
-    // A typed character: powerup keys spend the oldest letter, fly keys move a free eye in play.
+    // Once in each pass of the main loop, after the polls: the clicks of the menus and the mouse and keys of
+    // play. False when the player has picked Quit.
+    bool Step();
+    // A typed character: Escape quits, powerup keys spend the oldest letter, fly keys move a free eye in play.
     void OnChar(char cCharacter);
+    // The key test at the end of each results frame: space leads on, Escape back to the main menu.
+    void OnResultsKeys();
 
 private:
+    void Quit();
     void SpendPowerupOn(int iTarget);
     void Fly(char cLowerCase);
 };

@@ -1,8 +1,10 @@
 #pragma once
 #include "math/Vector.h"
+#include "platform/RenderDevice.h"
 
 #include <cstdint>
 #include <list>
+#include <memory>
 
 struct CColourF
 {
@@ -22,12 +24,20 @@ public:
     bool m_bAlive = true;
 };
 
-// A list of particles that start at one origin; what a particle is and how it moves is the derived class's.
+// A list of particles that start at one origin, drawn as point sprites; what a particle is and how it moves
+// is the derived class's.
 class CParticleSystemBase
 {
 public:
     virtual ~CParticleSystemBase() = default;
     virtual void Reset();
+    // Makes the dynamic vertex buffer of m_uiVBSize vertices and loads the picture of a particle. False when
+    // either fails: the particles are then not drawn, and nobody is told.
+    virtual bool Init(IRenderDevice* pDevice, const char* pFileName);
+    virtual void PreRender();
+    // Sends the live particles to the device in batches of m_uiBatchSize points through the buffer.
+    virtual void Render();
+    virtual void PostRender();
     virtual void ResetParticle(CParticle& Particle) = 0;
     virtual void AddParticle();
     virtual void Update(float fSeconds) = 0;
@@ -36,8 +46,11 @@ public:
     void Setup(const CPoint3& Origin, uint32_t uiCount);
     bool IsDead() const;
 
+    IRenderDevice* m_pDevice = nullptr; // given to Init
     CPoint3 m_vOrigin;
     float m_fSize = 0.0f;
+    std::unique_ptr<ITexture> m_pTexture;
+    std::unique_ptr<IVertexBuffer> m_pVB;
     std::list<CParticle> m_lstParticles; // dead ones too, until removed
     uint32_t m_uiVBSize = 0;
     uint32_t m_uiVBOffset = 0;
@@ -52,8 +65,13 @@ public:
     static constexpr uint32_t PARTICLES_PER_BURST = 30;
 
     void StartBurst(CPoint3 Position);
+    void PreRender() override;
+    void PostRender() override;
     void ResetParticle(CParticle& Particle) override;
     void Update(float fSeconds) override;
+    // Draws the bursts in world coordinates on the device of the play frame. The buffer and the flare are
+    // made at the first draw, so that the rules can start bursts where no device exists.
+    void DrawParticles(IRenderDevice* pDevice);
 
     CPoint3 m_vBurstPosition;
     bool m_bActive = false; // a burst has live particles

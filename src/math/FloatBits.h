@@ -9,3 +9,11 @@ inline float FloatFromBits(uint32_t uiBits)
     std::memcpy(&f, &uiBits, sizeof(f));
     return f;
 }
+
+// The bit pattern of a float, as the device takes floats among its render states.
+inline uint32_t FloatToBits(float fValue)
+{
+    uint32_t uiBits;
+    std::memcpy(&uiBits, &fValue, sizeof(uiBits));
+    return uiBits;
+}

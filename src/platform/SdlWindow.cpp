@@ -2,6 +2,8 @@
 
 #include <SDL.h>
 
+#include <cstdio>
+
 namespace
 {
 constexpr int BACK_BUFFER_WIDTH = 800;
@@ -13,11 +15,11 @@ constexpr char RETURN = 13;
 
 CSdlWindow::~CSdlWindow()
 {
-    Destroy();
+    Free();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
 
-bool CSdlWindow::Create(const char* pTitle, const char** ppError)
+bool CSdlWindow::Create(const char* pTitle, const char** ppError, bool bHidden)
 {
     if(SDL_InitSubSystem(SDL_INIT_VIDEO | SDL_INIT_EVENTS) != 0)
     {
@@ -31,15 +33,17 @@ bool CSdlWindow::Create(const char* pTitle, const char** ppError)
     // Full screen at the desktop's own size: the 800x600 picture is scaled into it with its shape kept.
     m_pWindow = SDL_CreateWindow(pTitle, SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, BACK_BUFFER_WIDTH,
                                  BACK_BUFFER_HEIGHT,
-                                 SDL_WINDOW_OPENGL | SDL_WINDOW_BORDERLESS | SDL_WINDOW_FULLSCREEN_DESKTOP);
+                                 bHidden ? SDL_WINDOW_OPENGL | SDL_WINDOW_HIDDEN
+                                         : SDL_WINDOW_OPENGL | SDL_WINDOW_BORDERLESS | SDL_WINDOW_FULLSCREEN_DESKTOP);
     if(m_pWindow)
         m_pContext = SDL_GL_CreateContext(m_pWindow);
     if(!m_pWindow || !m_pContext)
     {
         *ppError = SDL_GetError();
-        Destroy();
+        Free();
         return false;
     }
+    m_bOpen = true;
     SDL_GL_SetSwapInterval(1); // fails under a virtual display, which is harmless
     SDL_SetRelativeMouseMode(SDL_TRUE); // the game draws its own cursor and reads relative counts
     SDL_StartTextInput();
@@ -48,13 +52,13 @@ bool CSdlWindow::Create(const char* pTitle, const char** ppError)
 
 bool CSdlWindow::IsOpen() const
 {
-    return m_pWindow != nullptr;
+    return m_bOpen;
 }
 
 bool CSdlWindow::HandleOneEvent()
 {
     SDL_Event Event;
-    if(!m_pWindow || !SDL_PollEvent(&Event))
+    if(!m_bOpen || !SDL_PollEvent(&Event))
         return false;
     if(Event.type == SDL_QUIT)
     {
@@ -92,7 +96,16 @@ void CSdlWindow::TypeCharacters(const SDL_Event& Event)
     }
 }
 
+// Closing hides the window at once; the window and its GL context go with the object, after everything
+// that still holds GL objects has let go of them.
 void CSdlWindow::Destroy()
+{
+    if(m_pWindow)
+        SDL_HideWindow(m_pWindow);
+    m_bOpen = false;
+}
+
+void CSdlWindow::Free()
 {
     if(m_pContext)
         SDL_GL_DeleteContext(m_pContext);
@@ -100,6 +113,13 @@ void CSdlWindow::Destroy()
     if(m_pWindow)
         SDL_DestroyWindow(m_pWindow);
     m_pWindow = nullptr;
+    m_bOpen = false;
+}
+
+void ShowErrorInMessageBox(const char* pText)
+{
+    std::fprintf(stderr, "Trelvane: %s\n", pText);
+    SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_WARNING, "Trelvane", pText, nullptr);
 }
 
 void CSdlWindow::SetCharHandler(std::function<void(char)> fnOnChar)

@@ -15,8 +15,9 @@ public:
     typedef std::function<void(const SDL_Event&)> CEventListener;
 
     ~CSdlWindow() override;
-    // Opens the window; false, with the reason in pError, when no window or no GL context can be had.
-    bool Create(const char* pTitle, const char** ppError);
+    // Opens the window; false, with the reason in pError, when no window or no GL context can be had. A
+    // hidden window gives a GL context to tools that draw off screen.
+    bool Create(const char* pTitle, const char** ppError, bool bHidden = false);
     bool IsOpen() const override;
     bool HandleOneEvent() override;
     void Destroy() override;
@@ -29,9 +30,15 @@ public:
 
 private:
     void TypeCharacters(const SDL_Event& Event);
+    void Free();
 
     SDL_Window* m_pWindow = nullptr;
     void* m_pContext = nullptr;
     std::vector<CEventListener> m_vListeners;
     std::function<void(char)> m_fnOnChar;
+    bool m_bOpen = false;
 };
+
+// The error box of the game's window: the text on standard error, then a message box that waits for the
+// player.
+void ShowErrorInMessageBox(const char* pText);

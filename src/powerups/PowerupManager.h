@@ -9,9 +9,9 @@ constexpr int NOTICE_CHARS = 40;
 class CPowerupManager
 {
 public:
-    static constexpr uint32_t SLOW_INTERVAL = 1000;  // milliseconds per ball while slowed
-    static constexpr uint32_t FAST_INTERVAL = 90;    // while hurried
-    static constexpr uint32_t AFTER_INTERVAL = 300;  // every track once either ends
+    static constexpr uint32_t SLOW_INTERVAL = 1000; // milliseconds per ball while slowed
+    static constexpr uint32_t FAST_INTERVAL = 90;   // while hurried
+    static constexpr uint32_t AFTER_INTERVAL = 300; // every track once either ends
     static constexpr uint32_t DECREASE_MS = 7000;
     static constexpr uint32_t INCREASE_MS = 9000;
     static constexpr uint32_t HALT_MS = 6000;
@@ -28,6 +28,8 @@ public:
     // Drops the oldest letter and moves the others up.
     void PopLetter();
     void Update();
+    // The HUD's two lines about the letter the next use takes: what it does, and how to spend it.
+    void DrawPowerupInfo() const;
 
     void ApplyDecrease();
     void ApplyIncrease();

@@ -94,9 +94,16 @@ void CLevel::NextCameraPath()
 void CLevel::BuildAllLines()
 {
     for(CCameraPath& Path : m_vCameraPaths)
-        BuildLines(Path.m_Spline, Path.m_Lines);
+        BuildCurveLines(Path.m_Spline, Path.m_Lines);
     for(CTrack& Track : m_vTracks)
-        BuildLines(Track.m_Spline, Track.m_Lines);
+        BuildCurveLines(Track.m_Spline, Track.m_Lines);
+}
+
+void CLevel::BuildCurveLines(const CBSpline& Spline, CCurveLines& Lines)
+{
+    BuildLines(Spline, Lines);
+    if(m_pGraphics)
+        m_pGraphics->CreateCurveBuffer(Lines);
 }
 
 void CLevel::FinishLoad()

@@ -59,4 +59,5 @@ public:
 
 private:
     CCameraPath* CurrentPath();
+    void BuildCurveLines(const CBSpline& Spline, CCurveLines& Lines);
 };

@@ -75,6 +75,8 @@ bool CTrackFileReader::ReadBackground()
     if(!SkipLabels(1) || !ReadWord(szName, sizeof(szName)) || !ReadSeparator())
         return false;
     std::memcpy(m_Level.m_szBackground, szName, sizeof(szName));
+    if(m_Level.m_pGraphics)
+        m_Level.m_pGraphics->LoadBackground(szName);
     return true;
 }
 

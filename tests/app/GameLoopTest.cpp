@@ -1,7 +1,9 @@
 #include "TestSupport.h"
 #include "app/Game.h"
 #include "app/MainLoop.h"
+#include "input/Input.h"
 #include "platform/Clock.h"
+#include "platform/ScriptedInput.h"
 #include "platform/Window.h"
 
 #include <gtest/gtest.h>
@@ -67,40 +69,38 @@ TEST(GameLoop, PassesThatHandleAnEventRunNoFrameAndTheNextFrameSeesTheLongDelta)
 {
     SetManualClock(0);
     CGame Game;
+    g_pGame = &Game; // the screen flow steps in every pass
     CScriptedWindow Window;
     Window.m_iClosePass = 11;
     Window.m_fnEventWaits = [](int iPass) { return iPass >= 5 && iPass < 10; }; // a burst of five events
     EXPECT_EQ(RunMainLoop(Game, Window), 6u);                                     // passes 0 to 4, and 10
     EXPECT_EQ(Game.m_Clock.GetDelta(), 60u);
     EXPECT_EQ(Game.m_Clock.m_nTotal, 110u) << "every pass's time reaches the frame clock, none is lost";
+    g_pGame = nullptr;
     UseSystemClock();
 }
 
-// Starts the game binary in a folder, waits until it has started its frame loop, interrupts it, and gives
-// everything it printed followed by its exit code.
-CCommandResult RunHeadless(const std::string& Folder)
+TEST(GameLoop, QuitOnTheMainMenuClosesTheWindowInThePassThatSeesTheClick)
 {
-    const std::string Log = Folder + "/run.log";
-    return RunCommand("cd '" + Folder + "' && ('" TRELVANE_BINARY "' > '" + Log + "' 2>&1 & pid=$!; "
-                      "for i in $(seq 100); do grep -q 'Ctrl+C quits' '" + Log + "' && break; sleep 0.1; done; "
-                      "kill -INT $pid; wait $pid; echo exit=$?; cat '" + Log + "')");
-}
-
-TEST(GameLoop, HeadlessBinaryReadsTheTrackListAndQuitsOnInterrupt)
-{
-    CTempFile List("level1.txt\nlevel2.txt", "data/tracks/Track List.txt");
-    const std::string Folder = std::string(List.Path()).substr(0, std::string(List.Path()).find("/data/"));
-    CCommandResult Run = RunHeadless(Folder);
-    EXPECT_NE(Run.m_Output.find("exit=0"), std::string::npos) << Run.m_Output;
-    EXPECT_NE(Run.m_Output.find("2 levels in the track list"), std::string::npos) << Run.m_Output;
-    EXPECT_NE(Run.m_Output.find("frames run."), std::string::npos) << Run.m_Output;
-    EXPECT_EQ(Run.m_Output.find("ERROR"), std::string::npos) << Run.m_Output;
-
-    // Without a data folder the game says so once and goes on running with an empty list.
-    std::filesystem::remove_all(Folder + "/data");
-    Run = RunHeadless(Folder);
-    EXPECT_NE(Run.m_Output.find("exit=0"), std::string::npos) << Run.m_Output;
-    EXPECT_NE(Run.m_Output.find("ERROR: data//tracks//Track List.txt doesn't exist."), std::string::npos)
-        << Run.m_Output;
-    EXPECT_NE(Run.m_Output.find("0 levels in the track list"), std::string::npos) << Run.m_Output;
+    SetManualClock(0);
+    CGame Game;
+    g_pGame = &Game;
+    Game.m_Graphics.m_nScreenState = SCREEN_MAIN_MENU;
+    Game.m_Graphics.m_nHotSpot = HOT_QUIT;
+    CScriptedInput Mouse;
+    InitInput();
+    CreateMouse(&Mouse);
+    Mouse.SetButton(0, true);
+    CScriptedWindow Window;
+    Window.m_iClosePass = 100;
+    Window.m_fnEventWaits = [&Mouse](int iPass) {
+        Mouse.SetButton(0, iPass != 2); // let go during the third pass, seen by the fourth
+        return false;
+    };
+    EXPECT_EQ(RunMainLoop(Game, Window), 4u) << "the closing pass still runs its frame";
+    EXPECT_FALSE(Window.m_bOpen);
+    ReleaseMouse();
+    ReleaseInput();
+    g_pGame = nullptr;
+    UseSystemClock();
 }

@@ -1,4 +1,5 @@
 #include "app/Game.h"
+#include "platform/RecordingRenderDevice.h"
 
 #include <gtest/gtest.h>
 

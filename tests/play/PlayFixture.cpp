@@ -13,6 +13,8 @@ CPlayFixture::CPlayFixture() : m_Level(m_Game.m_Level), m_Logic(m_Game.m_Logic)
     m_Game.m_Clock = CGameClock();
     g_pGame = &m_Game;
     m_Game.m_Sound.m_pAudio = &m_Audio;
+    m_Device.m_bRecording = false;
+    m_Game.m_Graphics.m_pDevice = &m_Device;
     m_Game.m_bInGame = true;
     m_Logic.m_bActive = true;
     m_Level.m_vTracks.reserve(8); // tests hold references to their tracks

@@ -2,6 +2,7 @@
 #include "app/Game.h"
 #include "platform/Audio.h"
 #include "platform/Clock.h"
+#include "platform/RecordingRenderDevice.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +29,7 @@ protected:
     // Puts the eye where a straight shot along +z reaches the track at x, and fires with that colour.
     void FireAt(float fX, uint8_t ucColour);
 
+    CRecordingRenderDevice m_Device; // the play frame aims the camera on it
     CGame m_Game;
     CLevel& m_Level;
     CChainLogic& m_Logic;

@@ -85,7 +85,12 @@ struct CAim
 // Tried on a copy of the camera, so that looking costs the player nothing.
 const CBall* PredictAfterTurn(const CGame& Game, const CAim& Aim, uint32_t uiDeltaMs, float fRange)
 {
-    CGraphicsEngine Sight = Game.m_Graphics;
+    CGraphicsEngine Sight;
+    Sight.m_pLevel = Game.m_Graphics.m_pLevel;
+    Sight.m_vEye = Game.m_Graphics.m_vEye;
+    Sight.m_vLookAt = Game.m_Graphics.m_vLookAt;
+    Sight.m_fYaw = Game.m_Graphics.m_fYaw;
+    Sight.m_fPitch = Game.m_Graphics.m_fPitch;
     TurnBy(Sight, Aim.m_fRight, Aim.m_fDown);
     return PredictHit(Game.m_Level, Sight, uiDeltaMs, fRange);
 }

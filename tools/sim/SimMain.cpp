@@ -1,6 +1,7 @@
 #include "app/Game.h"
 #include "platform/Clock.h"
 #include "platform/ErrorBox.h"
+#include "platform/RecordingRenderDevice.h"
 #include "sim/Autoplay.h"
 #include "sim/SimOptions.h"
 #include "sim/SimReport.h"
@@ -93,8 +94,11 @@ int Simulate(const CSimOptions& Options, CSimScript& Script, std::ofstream* pTra
     g_vErrors.clear();
     // The one seeding, before the game exists: building the game already draws the colours in hand.
     std::srand(Options.m_uiSeed);
+    CRecordingRenderDevice Device; // the play frame aims the camera, and the shots leave along its sight
+    Device.m_bRecording = false;
     const auto pGame = std::make_unique<CGame>();
     g_pGame = pGame.get();
+    pGame->m_Graphics.m_pDevice = &Device;
     pGame->m_Tracks.m_uiRound = Options.m_uiRound;
     pGame->StartLevel(Options.m_LevelFile.c_str());
     ReportWarnings();

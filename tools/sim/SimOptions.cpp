@@ -1,6 +1,6 @@
 #include "sim/SimOptions.h"
 
-#include "sim/SimParse.h"
+#include "common/NumberParse.h"
 
 const char* const SIM_USAGE = "trelvane-sim LEVEL_FILE [--seed N] [--dt MS] [--frames N] [--round R] [--script FILE] "
                               "[--autoplay] [--trace FILE]";

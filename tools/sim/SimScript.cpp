@@ -2,7 +2,7 @@
 
 #include "app/Game.h"
 #include "sim/PlayerInput.h"
-#include "sim/SimParse.h"
+#include "common/NumberParse.h"
 #include "sim/SimReport.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "sim/SimParse.h"
+#include "common/NumberParse.h"
 
 #include <charconv>
 #include <cmath>

@@ -1,0 +1,90 @@
+#pragma once
+#include "platform/GlFunctions.h"
+#include "platform/GlTexture.h"
+#include "platform/GlTextureStage.h"
+#include "platform/GlVertexBuffer.h"
+#include "platform/GlVertexFormat.h"
+#include "platform/RenderDevice.h"
+
+#include <map>
+#include <vector>
+
+class CGlBackBuffer;
+class CSdlWindow;
+
+// The drawing device on OpenGL 2.1's fixed-function pipeline, giving the picture Direct3D 9 gives: the game's
+// left-handed matrices with depth from 0 to 1, clockwise front faces, Direct3D's default states, and an 800x600
+// back buffer that is scaled into the window when presented. Objects it hands out may go in any order, all
+// before the device, and the device goes before the window's GL context.
+class CGlRenderDevice : public IRenderDevice
+{
+public:
+    CGlRenderDevice();
+    CGlRenderDevice(const CGlRenderDevice&) = delete;
+    CGlRenderDevice& operator=(const CGlRenderDevice&) = delete;
+    ~CGlRenderDevice() override;
+
+    // Takes over the window's current GL context; false when the back buffer can't be made. Nothing else may
+    // be called before it has succeeded.
+    bool Init(CSdlWindow& Window);
+    // The back buffer as 800x600 RGBA bytes, top row first.
+    bool ReadPixels(std::vector<uint8_t>& vRgba) const;
+    // Waits until everything asked of the driver so far is drawn, for measuring frames.
+    void Finish() const;
+
+    void Clear(uint32_t uiColour, float fDepth) override;
+    void BeginScene() override {}
+    void EndScene() override {}
+    void Present() override;
+
+    void SetRenderState(ERenderState State, uint32_t uiValue) override;
+    void SetTextureStageState(uint32_t uiStage, ETextureStageState State, uint32_t uiValue) override;
+    void SetTexture(uint32_t uiStage, ITexture* pTexture) override;
+    void SetTransform(ETransform Kind, const CMatrixData& Matrix) override;
+    void SetMaterial(const CMaterial& Material) override;
+    void SetLight(uint32_t uiIndex, const CLight& Light) override;
+    void LightEnable(uint32_t uiIndex, bool bEnable) override;
+
+    void SetFVF(uint32_t uiFVF) override { m_uiFVF = uiFVF; }
+    void SetStreamSource(IVertexBuffer* pBuffer, uint32_t uiStride) override;
+    void DrawPrimitive(EPrimitive Type, uint32_t uiStartVertex, uint32_t uiPrimitiveCount) override;
+
+    std::unique_ptr<IVertexBuffer> CreateVertexBuffer(uint32_t uiLength, uint32_t uiFVF) override;
+    std::unique_ptr<IMesh> CreateSphere(float fRadius, uint32_t uiSlices, uint32_t uiStacks) override;
+    std::unique_ptr<ITexture> CreateTextureFromFile(const char* pFileName) override;
+    std::unique_ptr<IFont> CreateFont(int32_t iHeight, uint32_t uiWeight, const char* pFaceName) override;
+    bool GetImageInfoFromFile(const char* pFileName, uint32_t& uiWidth, uint32_t& uiHeight) override;
+
+private:
+    // Direct3D's value of each render state on a new device with a depth buffer.
+    static std::array<uint32_t, RENDER_STATE_COUNT> DefaultRenderStates();
+    void SetFixedStates();
+    void ApplyRenderState(ERenderState State);
+    float StateAsFloat(ERenderState State) const;
+    void ApplyModelView();
+    void ApplyViewAndLights();
+    void ApplyMaterial();
+    void DrawWorldVertices(GLenum eMode, const CVertexLayout& Layout, const uint8_t* pFirst, GLsizei iCount);
+    void DrawScreenVertices(GLenum eMode, GLsizei iCount);
+    void DrawArrays(GLenum eMode, GLsizei iCount);
+    void ApplyPointSize();
+    float ScaledPointSize(float fDistance) const;
+    void DrawScaledPoints(const CVertexLayout& Layout, const uint8_t* pFirst, GLsizei iCount);
+
+    CGlFunctions m_Gl;
+    std::unique_ptr<CGlBackBuffer> m_pBackBuffer;
+    CSdlWindow* m_pWindow = nullptr;
+    std::array<uint32_t, RENDER_STATE_COUNT> m_auiStates;
+    CGlTextureStage m_Stage;
+    CMatrixData m_View;
+    CMatrixData m_World;
+    CMatrixData m_Projection;               // the game's, before its depth is remapped
+    std::map<uint32_t, CLight> m_mapLights; // by light number, the lights set so far
+    CMaterial m_Material;
+    uint32_t m_uiFVF = 0;
+    CVertexBytesRef m_pStream;
+    uint32_t m_uiStride = 0;
+    CGlTextureRef m_pWhite;
+    CGlTextureRef m_pTexture; // what stage 0 reads: the set texture, or the white one
+    bool m_bFonts = false;
+};

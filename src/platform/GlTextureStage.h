@@ -1,0 +1,19 @@
+#pragma once
+#include "platform/RenderDevice.h"
+
+#include <array>
+
+// Stage 0 of Direct3D's texture blending, on GL's combiner: a colour and an alpha operation, each of one or
+// two arguments. A stage without a texture reads an opaque white one, so the operations never change meaning.
+class CGlTextureStage
+{
+public:
+    void Set(ETextureStageState State, uint32_t uiValue) { m_auiStates[State] = uiValue; }
+    // Sets the combiner of the active texture unit.
+    void Apply() const;
+
+private:
+    // Direct3D's defaults for stage 0.
+    std::array<uint32_t, TEXTURE_STAGE_STATE_COUNT> m_auiStates{TOP_MODULATE,   TA_TEXTURE, TA_CURRENT,
+                                                                TOP_SELECTARG1, TA_TEXTURE, TA_CURRENT};
+};

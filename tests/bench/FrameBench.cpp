@@ -1,0 +1,73 @@
+#include "app/Game.h"
+#include "gfx/Fonts.h"
+#include "platform/Clock.h"
+#include "platform/GlRenderDevice.h"
+#include "platform/SdlWindow.h"
+
+#include <benchmark/benchmark.h>
+
+namespace
+{
+constexpr uint32_t BALL_SPACING_POINTS = 4;
+
+// The real game drawing its play frame on the OpenGL device: the first shipped level with its track filled
+// with a given number of balls, all in view, every one its own draw with its own matrix and material.
+struct CDrawnLevel
+{
+    CSdlWindow m_Window;
+    CGlRenderDevice m_Device;
+    CGame m_Game;
+    bool m_bReady = false;
+
+    explicit CDrawnLevel(uint32_t uiBalls)
+    {
+        const char* pReason = "";
+        if(!m_Window.Create("Trelvane", &pReason, true))
+            return;
+        g_pGame = &m_Game;
+        m_Game.m_Graphics.m_fnOpenDevice = [this]() -> IRenderDevice* {
+            return m_Device.Init(m_Window) ? &m_Device : nullptr;
+        };
+        if(!m_Game.m_Graphics.Init() || !InitFonts())
+            return;
+        m_Game.StartLevel("data/tracks/level1.txt");
+        Fill(m_Game.m_Level.m_vTracks.at(0), uiBalls);
+        m_bReady = true;
+    }
+    ~CDrawnLevel()
+    {
+        ReleaseFonts();
+        g_pGame = nullptr;
+    }
+
+    static void Fill(CTrack& Track, uint32_t uiBalls)
+    {
+        const std::vector<CPoint3>& vPoints = Track.m_Spline.m_vPoints;
+        for(uint32_t i = 0; i < uiBalls; i++)
+        {
+            CBall* pBall = new CBall;
+            pBall->m_uiPoint = (i * BALL_SPACING_POINTS) % static_cast<uint32_t>(vPoints.size());
+            pBall->m_Position = vPoints[pBall->m_uiPoint];
+            pBall->m_ucColour = static_cast<uint8_t>(i % 6);
+            pBall->m_bPowerup = i % 10 == 0;
+            Track.m_lstBalls.push_back(pBall);
+        }
+    }
+};
+
+void PlayFrame(benchmark::State& State)
+{
+    CDrawnLevel Level(static_cast<uint32_t>(State.range(0)));
+    if(!Level.m_bReady)
+    {
+        State.SkipWithError("no OpenGL device (run on a display)");
+        return;
+    }
+    for(auto _ : State)
+    {
+        Level.m_Game.m_Graphics.RenderPlayFrame();
+        Level.m_Device.Finish();
+    }
+}
+BENCHMARK(PlayFrame)->Arg(0)->Arg(500)->Arg(2000)->Unit(benchmark::kMillisecond);
+} // namespace

@@ -1,0 +1,117 @@
+// Draws one frame of the game with the real device and saves it as an 800x600 PNG: a level after some
+// frames of play, or a menu screen.
+#include "app/Game.h"
+#include "gfx/Fonts.h"
+#include "platform/Clock.h"
+#include "platform/GlRenderDevice.h"
+#include "platform/PngFile.h"
+#include "platform/SdlWindow.h"
+#include "shot/ShotOptions.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace
+{
+constexpr uint32_t FRAME_MS = 10;
+
+int Fail(const std::string& Reason)
+{
+    std::fprintf(stderr, "trelvane-shot: %s\n", Reason.c_str());
+    return EXIT_FAILURE;
+}
+
+// The level's rules run frame by frame on a hand-set clock; the frame saved is a play frame drawn last,
+// with the view turned as asked.
+void PlayLevel(CGame& Game, const CShotOptions& Options)
+{
+    Game.StartLevel(Options.m_LevelFile.c_str());
+    for(uint32_t i = 0; i < Options.m_uiFrames; i++)
+    {
+        AdvanceManualClock(FRAME_MS);
+        Game.Tick();
+    }
+    if(Options.m_bAim)
+    {
+        Game.m_Graphics.m_fYaw = Options.m_fYaw;
+        Game.m_Graphics.m_fPitch = Options.m_fPitch;
+    }
+    Game.m_Graphics.RenderPlayFrame();
+}
+
+// Where a point of the world lands on the 800x600 screen through the frame's view and projection; false
+// behind the eye.
+bool Project(const CGraphicsEngine& Camera, const CPoint3& Point, float& fX, float& fY)
+{
+    auto Transform = [](const float* pIn, const CMatrixData& m, float* pOut) {
+        for(int c = 0; c < 4; c++)
+            pOut[c] = pIn[0] * m[c] + pIn[1] * m[4 + c] + pIn[2] * m[8 + c] + pIn[3] * m[12 + c];
+    };
+    const float afWorld[4] = {Point.x(), Point.y(), Point.z(), 1.0f};
+    float afView[4], afClip[4];
+    Transform(afWorld, Camera.m_matView, afView);
+    Transform(afView, Camera.m_matProjection, afClip);
+    if(afClip[3] <= 0.0f)
+        return false;
+    fX = (afClip[0] / afClip[3] + 1.0f) * 400.0f;
+    fY = (1.0f - afClip[1] / afClip[3]) * 300.0f;
+    return true;
+}
+
+// One line for each chain ball in view: its place on screen, its colour and whether it carries a powerup.
+void ListBalls(const CGame& Game)
+{
+    for(const CTrack& Track : Game.m_Level.m_vTracks)
+    {
+        for(const CBall* pBall : Track.m_lstBalls)
+        {
+            float fX, fY;
+            if(Project(Game.m_Graphics, pBall->m_Position, fX, fY) && fX >= 0 && fX < 800 && fY >= 0 && fY < 600)
+                std::printf("ball %.0f %.0f %u %d\n", fX, fY, pBall->m_ucColour, pBall->m_bPowerup ? 1 : 0);
+        }
+    }
+}
+
+int Grab(const CShotOptions& Options, CSdlWindow& Window)
+{
+    CGlRenderDevice Device;
+    CGame Game;
+    g_pGame = &Game;
+    Game.m_Graphics.m_fnOpenDevice = [&Device, &Window]() -> IRenderDevice* {
+        return Device.Init(Window) ? &Device : nullptr;
+    };
+    if(!Game.m_Graphics.Init())
+        return Fail("no OpenGL device");
+    InitFonts();
+    if(Options.m_LevelFile.empty())
+    {
+        Game.m_Graphics.m_nScreenState = Options.m_iMenuState;
+        Game.m_Graphics.RenderMenuFrame();
+    }
+    else
+        PlayLevel(Game, Options);
+    if(Options.m_bListBalls)
+        ListBalls(Game);
+    std::vector<uint8_t> vPixels;
+    const bool bSaved = Device.ReadPixels(vPixels) && SavePng(Options.m_OutFile.c_str(), vPixels, 800, 600);
+    ReleaseFonts();
+    g_pGame = nullptr;
+    return bSaved ? EXIT_SUCCESS : Fail("cannot write " + Options.m_OutFile);
+}
+} // namespace
+
+int main(int iArgCount, char** ppArgs)
+{
+    CShotOptions Options;
+    std::string Error;
+    if(!ParseShotOptions(iArgCount - 1, ppArgs + 1, Options, Error))
+        return Fail(Error + " (usage: " + SHOT_USAGE + ")");
+    SetManualClock(0);
+    std::srand(Options.m_uiSeed);
+    CSdlWindow Window;
+    const char* pReason = "";
+    if(!Window.Create("Trelvane", &pReason, true))
+        return Fail(std::string("no window: ") + pReason);
+    return Grab(Options, Window);
+}
