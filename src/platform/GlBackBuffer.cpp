@@ -58,8 +58,12 @@ void CGlBackBuffer::Present(CSdlWindow& Window)
     Window.GetDrawableSize(iWidth, iHeight);
     const CPlacement Place = Letterbox(iWidth, iHeight);
     m_Gl.m_pfnBindFramebuffer(GL_DRAW_FRAMEBUFFER, 0);
-    glClearColor(0.0f, 0.0f, 0.0f, 1.0f);
-    glClear(GL_COLOR_BUFFER_BIT);
+    // Only the bars need black: the picture covers the rest.
+    if(Place.m_iWidth < iWidth || Place.m_iHeight < iHeight)
+    {
+        glClearColor(0.0f, 0.0f, 0.0f, 1.0f);
+        glClear(GL_COLOR_BUFFER_BIT);
+    }
     m_Gl.m_pfnBlitFramebuffer(0, 0, WIDTH, HEIGHT, Place.m_iX, Place.m_iY, Place.m_iX + Place.m_iWidth,
                               Place.m_iY + Place.m_iHeight, GL_COLOR_BUFFER_BIT, GL_LINEAR);
     Window.SwapBuffers();

@@ -5,6 +5,7 @@
 #include "math/FloatBits.h"
 #include "platform/GlBackBuffer.h"
 #include "platform/GlColour.h"
+#include "platform/GlLighting.h"
 
 #include <algorithm>
 
@@ -13,7 +14,6 @@ namespace
 constexpr uint32_t FILL_POINT = 1;
 constexpr uint32_t FILL_WIREFRAME = 2;
 constexpr uint32_t SHADE_FLAT = 1;
-constexpr GLint MAX_LIGHTS = 8;
 constexpr float MAX_SHININESS = 128.0f;
 
 // Direct3D's blend factors by number, from D3DBLEND_ZERO (1) to D3DBLEND_SRCALPHASAT (11).
@@ -69,6 +69,7 @@ void CGlRenderDevice::SetRenderState(ERenderState State, uint32_t uiValue)
 {
     if(State < 0 || State >= RENDER_STATE_COUNT)
         return;
+    FlushSpheres();
     m_auiStates[State] = uiValue;
     ApplyRenderState(State);
 }
@@ -124,8 +125,11 @@ void CGlRenderDevice::ApplyRenderState(ERenderState State)
     }
 }
 
+// Waiting spheres keep the world matrix each was drawn with, but share the view and projection.
 void CGlRenderDevice::SetTransform(ETransform Kind, const CMatrixData& Matrix)
 {
+    if(Kind != TRANSFORM_WORLD)
+        FlushSpheres();
     switch(Kind)
     {
     case TRANSFORM_WORLD:
@@ -169,8 +173,9 @@ void CGlRenderDevice::ApplyViewAndLights()
 // Every light is directional: it shines along its direction from infinitely far away.
 void CGlRenderDevice::SetLight(uint32_t uiIndex, const CLight& Light)
 {
-    if(uiIndex >= MAX_LIGHTS)
+    if(uiIndex >= MAX_GL_LIGHTS)
         return;
+    FlushSpheres();
     const GLenum eLight = GL_LIGHT0 + uiIndex;
     glLightfv(eLight, GL_DIFFUSE, Rgba(Light.m_Diffuse).data());
     glLightfv(eLight, GL_SPECULAR, Rgba(Light.m_Specular).data());
@@ -181,8 +186,11 @@ void CGlRenderDevice::SetLight(uint32_t uiIndex, const CLight& Light)
 
 void CGlRenderDevice::LightEnable(uint32_t uiIndex, bool bEnable)
 {
-    if(uiIndex < MAX_LIGHTS)
-        Toggle(GL_LIGHT0 + uiIndex, bEnable);
+    if(uiIndex >= MAX_GL_LIGHTS)
+        return;
+    FlushSpheres();
+    Toggle(GL_LIGHT0 + uiIndex, bEnable);
+    m_uiLightsOn = bEnable ? m_uiLightsOn | 1u << uiIndex : m_uiLightsOn & ~(1u << uiIndex);
 }
 
 void CGlRenderDevice::SetMaterial(const CMaterial& Material)
@@ -207,6 +215,7 @@ void CGlRenderDevice::SetTextureStageState(uint32_t uiStage, ETextureStageState 
 {
     if(uiStage != 0 || State < 0 || State >= TEXTURE_STAGE_STATE_COUNT)
         return;
+    FlushSpheres();
     m_Stage.Set(State, uiValue);
     m_Stage.Apply();
 }

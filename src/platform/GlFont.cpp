@@ -1,6 +1,7 @@
 #include "platform/GlFont.h"
 
 #include "platform/GlOverlay.h"
+#include "platform/GlRenderDevice.h"
 
 #include <SDL_ttf.h>
 
@@ -51,7 +52,7 @@ CSurfacePtr Narrowed(SDL_Surface* pLine)
 }
 } // namespace
 
-std::unique_ptr<CGlFont> CGlFont::Create(int32_t iHeight, uint32_t uiWeight)
+std::unique_ptr<CGlFont> CGlFont::Create(CGlRenderDevice& Device, int32_t iHeight, uint32_t uiWeight)
 {
     if(iHeight <= 0 || iHeight > MAX_CELL_HEIGHT)
         return nullptr;
@@ -61,7 +62,7 @@ std::unique_ptr<CGlFont> CGlFont::Create(int32_t iHeight, uint32_t uiWeight)
     TTF_SetFontSize(pFont, PointsForCell(pFont, iHeight));
     if(uiWeight >= BOLD_WEIGHT)
         TTF_SetFontStyle(pFont, TTF_STYLE_BOLD);
-    return std::unique_ptr<CGlFont>(new CGlFont(pFont));
+    return std::unique_ptr<CGlFont>(new CGlFont(Device, pFont));
 }
 
 CGlFont::~CGlFont()
@@ -79,6 +80,7 @@ void CGlFont::DrawText(const char* pText, int iCount, const CRect& Rect, uint32_
     const CRendered* pRendered = Render(Text);
     if(!pRendered)
         return;
+    m_Device.FlushSpheres();
     int iX = Rect.m_iLeft;
     if(uiFormat & DT_CENTER)
         iX += (Rect.m_iRight - Rect.m_iLeft - pRendered->m_iWidth) / 2;

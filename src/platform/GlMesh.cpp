@@ -1,9 +1,10 @@
 #include "platform/GlMesh.h"
 
-#include "platform/SphereGeometry.h"
+#include "platform/GlRenderDevice.h"
 
-std::unique_ptr<CGlMesh> CGlMesh::Create(const CSphereGeometry& Geometry)
+std::unique_ptr<CGlMesh> CGlMesh::Create(CGlRenderDevice& Device, CSphereGeometryRef pGeometry)
 {
+    const CSphereGeometry& Geometry = *pGeometry;
     const GLuint uiList = glGenLists(1);
     if(!uiList)
         return nullptr;
@@ -23,7 +24,7 @@ std::unique_ptr<CGlMesh> CGlMesh::Create(const CSphereGeometry& Geometry)
                    Geometry.m_vIndices.data());
     glEndList();
     glPopClientAttrib();
-    return std::unique_ptr<CGlMesh>(new CGlMesh(uiList));
+    return std::unique_ptr<CGlMesh>(new CGlMesh(Device, std::move(pGeometry), uiList));
 }
 
 CGlMesh::~CGlMesh()
@@ -34,5 +35,5 @@ CGlMesh::~CGlMesh()
 void CGlMesh::DrawSubset(uint32_t uiSubset)
 {
     if(uiSubset == 0)
-        glCallList(m_uiList);
+        m_Device.DrawSphere(*this);
 }

@@ -71,18 +71,21 @@ void CGlRenderDevice::SetFixedStates()
     glMatrixMode(GL_MODELVIEW);
 }
 
-bool CGlRenderDevice::ReadPixels(std::vector<uint8_t>& vRgba) const
+bool CGlRenderDevice::ReadPixels(std::vector<uint8_t>& vRgba)
 {
+    FlushSpheres();
     return m_pBackBuffer && m_pBackBuffer->ReadPixels(vRgba);
 }
 
-void CGlRenderDevice::Finish() const
+void CGlRenderDevice::Finish()
 {
+    FlushSpheres();
     glFinish();
 }
 
 void CGlRenderDevice::Clear(uint32_t uiColour, float fDepth)
 {
+    FlushSpheres();
     const std::array<float, 4> afColour = Rgba(uiColour);
     glClearColor(afColour[0], afColour[1], afColour[2], afColour[3]);
     glClearDepth(fDepth);
@@ -93,6 +96,7 @@ void CGlRenderDevice::Clear(uint32_t uiColour, float fDepth)
 
 void CGlRenderDevice::Present()
 {
+    FlushSpheres();
     m_pBackBuffer->Present(*m_pWindow);
 }
 
@@ -100,6 +104,7 @@ void CGlRenderDevice::SetTexture(uint32_t uiStage, ITexture* pTexture)
 {
     if(uiStage != 0)
         return;
+    FlushSpheres();
     m_pTexture = pTexture ? static_cast<CGlTexture*>(pTexture)->Name() : m_pWhite;
     glBindTexture(GL_TEXTURE_2D, m_pTexture->Get());
 }
@@ -114,6 +119,7 @@ void CGlRenderDevice::SetStreamSource(IVertexBuffer* pBuffer, uint32_t uiStride)
 // draws nothing.
 void CGlRenderDevice::DrawPrimitive(EPrimitive Type, uint32_t uiStartVertex, uint32_t uiPrimitiveCount)
 {
+    FlushSpheres();
     const CVertexLayout Layout = LayoutOf(m_uiFVF);
     const uint64_t uVertices = VerticesOf(Type, uiPrimitiveCount);
     GLenum eMode;
@@ -176,7 +182,7 @@ std::unique_ptr<IVertexBuffer> CGlRenderDevice::CreateVertexBuffer(uint32_t uiLe
 
 std::unique_ptr<IMesh> CGlRenderDevice::CreateSphere(float fRadius, uint32_t uiSlices, uint32_t uiStacks)
 {
-    return CGlMesh::Create(BuildSphere(fRadius, uiSlices, uiStacks));
+    return CGlMesh::Create(*this, std::make_shared<const CSphereGeometry>(BuildSphere(fRadius, uiSlices, uiStacks)));
 }
 
 std::unique_ptr<ITexture> CGlRenderDevice::CreateTextureFromFile(const char* pFileName)
@@ -193,7 +199,7 @@ std::unique_ptr<IFont> CGlRenderDevice::CreateFont(int32_t iHeight, uint32_t uiW
 {
     if(!m_bFonts)
         return nullptr;
-    return CGlFont::Create(iHeight, uiWeight);
+    return CGlFont::Create(*this, iHeight, uiWeight);
 }
 
 bool CGlRenderDevice::GetImageInfoFromFile(const char* pFileName, uint32_t& uiWidth, uint32_t& uiHeight)

@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/GlFunctions.h"
+#include "platform/GlSphereBatch.h"
 #include "platform/GlTexture.h"
 #include "platform/GlTextureStage.h"
 #include "platform/GlVertexBuffer.h"
@@ -10,12 +11,16 @@
 #include <vector>
 
 class CGlBackBuffer;
+class CGlMesh;
 class CSdlWindow;
 
 // The drawing device on OpenGL 2.1's fixed-function pipeline, giving the picture Direct3D 9 gives: the game's
 // left-handed matrices with depth from 0 to 1, clockwise front faces, Direct3D's default states, and an 800x600
 // back buffer that is scaled into the window when presented. Objects it hands out may go in any order, all
 // before the device, and the device goes before the window's GL context.
+// Sphere draws in a row wait in a batch and are drawn together, lit on the CPU as GL would light them, when
+// anything else is drawn or any state they were drawn with changes; world matrices and materials change
+// between them freely.
 class CGlRenderDevice : public IRenderDevice
 {
 public:
@@ -28,9 +33,14 @@ public:
     // be called before it has succeeded.
     bool Init(CSdlWindow& Window);
     // The back buffer as 800x600 RGBA bytes, top row first.
-    bool ReadPixels(std::vector<uint8_t>& vRgba) const;
+    bool ReadPixels(std::vector<uint8_t>& vRgba);
     // Waits until everything asked of the driver so far is drawn, for measuring frames.
-    void Finish() const;
+    void Finish();
+    // A mesh's draw with the present world matrix and material: batched when the batch reproduces it, else
+    // drawn at once after the batch.
+    void DrawSphere(const CGlMesh& Mesh);
+    // Draws the sphere draws waiting in the batch, before anything that would come after them.
+    void FlushSpheres();
 
     void Clear(uint32_t uiColour, float fDepth) override;
     void BeginScene() override {}
@@ -70,6 +80,8 @@ private:
     void ApplyPointSize();
     float ScaledPointSize(float fDistance) const;
     void DrawScaledPoints(const CVertexLayout& Layout, const uint8_t* pFirst, GLsizei iCount);
+    bool BatchReproduces() const;
+    CEyeLights EyeLights() const;
 
     CGlFunctions m_Gl;
     std::unique_ptr<CGlBackBuffer> m_pBackBuffer;
@@ -80,6 +92,7 @@ private:
     CMatrixData m_World;
     CMatrixData m_Projection;               // the game's, before its depth is remapped
     std::map<uint32_t, CLight> m_mapLights; // by light number, the lights set so far
+    uint32_t m_uiLightsOn = 0;              // a bit for each light number that is enabled
     CMaterial m_Material;
     uint32_t m_uiFVF = 0;
     CVertexBytesRef m_pStream;
@@ -87,4 +100,5 @@ private:
     CGlTextureRef m_pWhite;
     CGlTextureRef m_pTexture; // what stage 0 reads: the set texture, or the white one
     bool m_bFonts = false;
+    CGlSphereBatch m_Spheres;
 };

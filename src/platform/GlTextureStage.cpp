@@ -35,6 +35,22 @@ void ApplyOperation(GLenum eCombine, GLenum eSource0, GLenum eSource1, uint32_t 
     glTexEnvi(GL_TEXTURE_ENV, eCombine, iMode);
     glTexEnvi(GL_TEXTURE_ENV, eSource0, iSource0);
 }
+// Whether one half of the stage gives the diffuse value when the texture reads as one. Anything but the texture
+// reads as the diffuse value at stage 0.
+bool KeepsDiffuse(uint32_t uiOp, uint32_t uiArg1, uint32_t uiArg2)
+{
+    switch(uiOp)
+    {
+    case TOP_SELECTARG1:
+        return uiArg1 != TA_TEXTURE;
+    case TOP_SELECTARG2:
+        return uiArg2 != TA_TEXTURE;
+    case TOP_MODULATE:
+        return (uiArg1 == TA_TEXTURE) != (uiArg2 == TA_TEXTURE);
+    default:
+        return true;
+    }
+}
 } // namespace
 
 void CGlTextureStage::Apply() const
@@ -44,4 +60,10 @@ void CGlTextureStage::Apply() const
                    m_auiStates[TSS_COLORARG2]);
     ApplyOperation(GL_COMBINE_ALPHA, GL_SRC0_ALPHA, GL_SRC1_ALPHA, m_auiStates[TSS_ALPHAOP], m_auiStates[TSS_ALPHAARG1],
                    m_auiStates[TSS_ALPHAARG2]);
+}
+
+bool CGlTextureStage::KeepsDiffuseOverWhite() const
+{
+    return KeepsDiffuse(m_auiStates[TSS_COLOROP], m_auiStates[TSS_COLORARG1], m_auiStates[TSS_COLORARG2]) &&
+           KeepsDiffuse(m_auiStates[TSS_ALPHAOP], m_auiStates[TSS_ALPHAARG1], m_auiStates[TSS_ALPHAARG2]);
 }

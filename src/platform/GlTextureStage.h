@@ -11,6 +11,9 @@ public:
     void Set(ETextureStageState State, uint32_t uiValue) { m_auiStates[State] = uiValue; }
     // Sets the combiner of the active texture unit.
     void Apply() const;
+    // Whether, reading an opaque white texture, the stage hands the diffuse colour and alpha on unchanged, as
+    // it does with no texture at all.
+    bool KeepsDiffuseOverWhite() const;
 
 private:
     // Direct3D's defaults for stage 0.

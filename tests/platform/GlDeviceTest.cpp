@@ -26,6 +26,19 @@ struct CLineVertex
     uint32_t uiColour;
 };
 
+// A screen vertex of its own colour and no picture.
+struct CTintVertex
+{
+    float x, y, z, rhw;
+    uint32_t uiColour;
+};
+
+struct CBallDraw
+{
+    CMatrixData m_World;
+    CMaterial m_Material;
+};
+
 // Where the pixels unlike the background lie: left and top inclusive, right and bottom exclusive.
 struct CBox
 {
@@ -51,6 +64,19 @@ CMatrixData ScaleAndMove(float fScale, float x, float y, float z)
 {
     return {fScale, 0, 0, 0, 0, fScale, 0, 0, 0, 0, fScale, 0, x, y, z, 1};
 }
+
+// Balls overlapping one another at different depths, in the game's colours and others: see-through, glowing,
+// too bright for the light, stretched and turned.
+const CBallDraw OVERLAPPING_BALLS[] = {
+    {ScaleAndMove(1.0f, 0.0f, 0.0f, 0.0f), {{0.8f, 0, 0, 1}, {1, 0, 0, 1}, {0, 0, 0, 1}, {0, 0, 0, 1}, 8.0f}},
+    {ScaleAndMove(0.8f, 0.9f, 0.3f, -0.5f), {{0, 0.7f, 0, 0.5f}, {0, 1, 0, 1}, {0, 0, 0, 1}, {0, 0, 0, 1}, 8.0f}},
+    {ScaleAndMove(0.7f, -0.8f, -0.4f, 0.6f),
+     {{0, 0, 0.8f, 1}, {0, 0, 0.5f, 1}, {0, 0, 0, 1}, {0.1f, 0.1f, 0.3f, 1}, 0}},
+    {ScaleAndMove(0.6f, -1.2f, 0.9f, -0.3f), {{1, 1, 0, 1}, {1, 1, 0.5f, 1}, {0, 0, 0, 1}, {0.3f, 0.3f, 0, 1}, 8.0f}},
+    {ScaleAndMove(0.9f, 0.2f, -0.9f, -1.0f), {{0.65f, 0, 0.65f, 0.4f}, {0.65f, 0, 0.65f, 1}, {0, 0, 0, 1}, {}, 8.0f}},
+    {{0.9f, 0.52f, 0, 0, -0.3f, 0.52f, 0, 0, 0, 0, 0.7f, 0, 1.6f, -0.6f, 0.3f, 1},
+     {{1, 0.5f, 0.25f, 1}, {1, 0.5f, 0.25f, 1}, {0, 0, 0, 1}, {0, 0, 0, 1}, 8.0f}},
+};
 
 // A picture file of the given RGBA pixels, rows top first.
 void WritePng(const char* pPath, int iWidth, int iHeight, std::vector<uint32_t> vPixels)
@@ -119,6 +145,30 @@ protected:
     }
 
     void Read() { ASSERT_TRUE(m_Device.ReadPixels(m_vPixels)); }
+
+    // Lit as the game lights its balls, by one white light along (1, 1, 1) and some ambient light, and seen from
+    // 5 in front of the origin.
+    void LightAsTheGame()
+    {
+        m_Device.SetRenderState(RS_AMBIENT, 0xff404040);
+        m_Device.SetRenderState(RS_SPECULARENABLE, 1);
+        m_Device.SetRenderState(RS_NORMALIZENORMALS, 1);
+        CLight Light;
+        Light.m_Diffuse = {0.8f, 0.8f, 0.8f, 1.0f};
+        Light.m_Specular = {0.3f, 0.3f, 0.3f, 1.0f};
+        Light.m_afDirection = {0.57735f, 0.57735f, 0.57735f};
+        m_Device.SetLight(2, Light);
+        m_Device.LightEnable(2, true);
+        m_Device.SetTransform(TRANSFORM_PROJECTION, PerspectiveFovLH());
+        m_Device.SetTransform(TRANSFORM_VIEW, LookAtLHAlongZ(5.0f));
+    }
+
+    void DrawBall(IMesh& Sphere, const CBallDraw& Ball)
+    {
+        m_Device.SetTransform(TRANSFORM_WORLD, Ball.m_World);
+        m_Device.SetMaterial(Ball.m_Material);
+        Sphere.DrawSubset(0);
+    }
 
     // Red, green and blue of a pixel of the last read, as 0xRRGGBB.
     uint32_t Pixel(int x, int y) const
@@ -213,17 +263,7 @@ TEST_F(GraphicsEngine, GlDeviceDrawsAPictureFileAtExactlyItsPixels)
 
 TEST_F(GraphicsEngine, GlDeviceDrawsALitSphereInItsMaterialColourInFrontOfTheFarBackground)
 {
-    m_Device.SetRenderState(RS_AMBIENT, 0xff404040);
-    m_Device.SetRenderState(RS_SPECULARENABLE, 1);
-    m_Device.SetRenderState(RS_NORMALIZENORMALS, 1);
-    CLight Light;
-    Light.m_Diffuse = {0.8f, 0.8f, 0.8f, 1.0f};
-    Light.m_Specular = {0.3f, 0.3f, 0.3f, 1.0f};
-    Light.m_afDirection = {0.57735f, 0.57735f, 0.57735f};
-    m_Device.SetLight(2, Light);
-    m_Device.LightEnable(2, true);
-    m_Device.SetTransform(TRANSFORM_PROJECTION, PerspectiveFovLH());
-    m_Device.SetTransform(TRANSFORM_VIEW, LookAtLHAlongZ(5.0f));
+    LightAsTheGame();
     std::unique_ptr<IMesh> pSphere = m_Device.CreateSphere(1.0f, 10, 10);
     ASSERT_NE(pSphere, nullptr);
 
@@ -250,6 +290,106 @@ TEST_F(GraphicsEngine, GlDeviceDrawsALitSphereInItsMaterialColourInFrontOfTheFar
     EXPECT_GT((uiGreen >> 8) & 0xff, 100u);
     EXPECT_EQ(uiGreen & 0xff00ff, 0u);
     EXPECT_EQ(Pixel(110, 300), 0xffffffu);
+}
+
+// Balls in a row wait to be drawn together, lit on the CPU; with a picture set the device draws each at once,
+// lit by GL. A plain white picture changes nothing in the colours under the game's texture stage, and under one
+// that shows the picture both are white, so each time the two pictures must match.
+TEST_F(GraphicsEngine, GlDeviceDrawsBallsInARowAsItDrawsThemOneByOne)
+{
+    CTempFile Picture("", "white.png");
+    WritePng(Picture.Path(), 1, 1, {0xffffffff});
+    std::unique_ptr<ITexture> pWhite = m_Device.CreateTextureFromFile(Picture.Path());
+    std::unique_ptr<IMesh> pSphere = m_Device.CreateSphere(1.0f, 10, 10);
+    ASSERT_NE(pSphere, nullptr);
+    LightAsTheGame();
+    CLight Blue;
+    Blue.m_Diffuse = {0.2f, 0.3f, 0.6f, 1.0f};
+    Blue.m_Ambient = {0.1f, 0.05f, 0.0f, 1.0f};
+    Blue.m_afDirection = {-0.8f, 0.2f, 0.5f};
+    m_Device.SetLight(5, Blue);
+    m_Device.LightEnable(5, true);
+    auto DrawTheBalls = [&](ITexture* pTexture)
+    {
+        m_Device.Clear(0xff006478, 1.0f);
+        m_Device.SetRenderState(RS_AMBIENT, 0xff404040);
+        m_Device.SetTexture(0, pTexture);
+        for(size_t i = 0; i < std::size(OVERLAPPING_BALLS); i++)
+        {
+            if(i == 3) // the balls before are lit as it was before
+                m_Device.SetRenderState(RS_AMBIENT, 0xff203050);
+            DrawBall(*pSphere, OVERLAPPING_BALLS[i]);
+        }
+        Read();
+    };
+
+    for(uint32_t uiColourOp : {TOP_MODULATE, TOP_SELECTARG1})
+    {
+        m_Device.SetTextureStageState(0, TSS_COLOROP, uiColourOp);
+        DrawTheBalls(pWhite.get());
+        const std::vector<uint8_t> vOneByOne = m_vPixels;
+        DrawTheBalls(nullptr);
+        EXPECT_GT(Unlike(0x006478).m_iCount, 30000);
+        int iUnlike = 0;
+        for(size_t i = 0; i < m_vPixels.size(); i++)
+            iUnlike += std::abs(m_vPixels[i] - vOneByOne[i]) > 2;
+        EXPECT_EQ(iUnlike, 0) << uiColourOp;
+    }
+}
+
+// What the batch does not light as GL does, GL draws: a highlight, a picture read at its corner, no lighting.
+TEST_F(GraphicsEngine, GlDeviceLeavesToGlTheBallsTheBatchCannotLight)
+{
+    CTempFile Picture("", "green.png");
+    WritePng(Picture.Path(), 1, 1, {0x00ff00ff});
+    std::unique_ptr<ITexture> pGreen = m_Device.CreateTextureFromFile(Picture.Path());
+    std::unique_ptr<IMesh> pSphere = m_Device.CreateSphere(1.0f, 10, 10);
+    LightAsTheGame();
+    m_Device.Clear(0xff000000, 1.0f);
+    CBallDraw Shiny = {ScaleAndMove(0.8f, -1.8f, 0.0f, 0.0f), OVERLAPPING_BALLS[0].m_Material};
+    Shiny.m_Material.m_Specular = {1.0f, 1.0f, 1.0f, 1.0f};
+    DrawBall(*pSphere, Shiny);
+    m_Device.SetTexture(0, pGreen.get());
+    DrawBall(*pSphere, {ScaleAndMove(0.8f, 0.0f, 0.0f, 0.0f), OVERLAPPING_BALLS[3].m_Material});
+    m_Device.SetTexture(0, nullptr);
+    m_Device.SetRenderState(RS_LIGHTING, 0);
+    DrawBall(*pSphere, {ScaleAndMove(0.8f, 1.8f, 0.0f, 0.0f), OVERLAPPING_BALLS[0].m_Material});
+    Read();
+    EXPECT_GT((Pixel(139, 300) >> 8) & 0xff, 10u); // the red's green comes from the highlight alone
+    EXPECT_EQ(Pixel(400, 300) >> 16, 0u);          // yellow through green
+    EXPECT_GT((Pixel(400, 300) >> 8) & 0xff, 100u);
+    EXPECT_EQ(Pixel(661, 300), 0xffffffu);
+}
+
+TEST_F(GraphicsEngine, GlDeviceDrawsWaitingBallsBeforeTheQuadsAndTextDrawnAfterThem)
+{
+    std::unique_ptr<IMesh> pSphere = m_Device.CreateSphere(1.0f, 10, 10);
+    std::unique_ptr<IFont> pFont = m_Device.CreateFont(26, 400, "Tahoma");
+    ASSERT_NE(pFont, nullptr);
+    LightAsTheGame();
+    m_Device.Clear(0xff000000, 1.0f);
+    const CBallDraw& Red = OVERLAPPING_BALLS[0];
+    DrawBall(*pSphere, Red);
+    // Half-transparent white over the left half of the screen, nearer than anything: had it gone before the
+    // ball, it would hide the ball and only lighten the black.
+    const uint32_t uiWhite = 0x80ffffff;
+    Draw<CTintVertex>(
+        PT_TRIANGLESTRIP, FVF_XYZRHW | FVF_DIFFUSE,
+        {{0, 0, 0, 1, uiWhite}, {400, 0, 0, 1, uiWhite}, {0, 600, 0, 1, uiWhite}, {400, 600, 0, 1, uiWhite}}, 2);
+    // Black text over a second red ball on the right, which would cover the text were it drawn later.
+    DrawBall(*pSphere, {ScaleAndMove(0.8f, 1.8f, 0.0f, 0.0f), Red.m_Material});
+    const CRect TextBox = {600, 285, 720, 320};
+    pFont->DrawText("Marbles", -1, TextBox, DT_NOCLIP, 0xff000000);
+    Read();
+
+    // Half white over the lit red, which is over 150 of red; over the black it is grey.
+    EXPECT_GT(Pixel(380, 300) >> 16, 0xc0u);
+    EXPECT_EQ(Pixel(380, 300) & 0xffff, 0x8080u);
+    EXPECT_EQ(Pixel(100, 300), 0x808080u);
+    // Within the second ball, which is red everywhere, black letters.
+    const int iRed = Unlike(0x000000, TextBox).m_iCount;
+    EXPECT_GT(iRed, 2000);
+    EXPECT_GT((TextBox.m_iRight - TextBox.m_iLeft) * (TextBox.m_iBottom - TextBox.m_iTop) - iRed, 50);
 }
 
 TEST_F(GraphicsEngine, GlDeviceBlendsHalfTransparentLinesOverTheClearColour)
