@@ -8,10 +8,11 @@
 
 namespace
 {
-constexpr uint32_t BALL_SPACING_POINTS = 4;
-
+constexpr uint32_t BALL_SPACING_POINTS = 14; // touching, as the chains roll
+constexpr float LAP_RISE = 3.0f;              // each lap of the track lies a ball's height above the last
 // The real game drawing its play frame on the OpenGL device: the first shipped level with its track filled
-// with a given number of balls, all in view, every one its own draw with its own matrix and material.
+// with a given number of touching balls, lap over lap as if the level had several tracks, all in view, every
+// one its own draw with its own matrix and material.
 struct CDrawnLevel
 {
     CSdlWindow m_Window;
@@ -46,8 +47,10 @@ struct CDrawnLevel
         for(uint32_t i = 0; i < uiBalls; i++)
         {
             CBall* pBall = new CBall;
-            pBall->m_uiPoint = (i * BALL_SPACING_POINTS) % static_cast<uint32_t>(vPoints.size());
-            pBall->m_Position = vPoints[pBall->m_uiPoint];
+            const uint32_t uiAlong = i * BALL_SPACING_POINTS;
+            const uint32_t uiPoints = static_cast<uint32_t>(vPoints.size());
+            pBall->m_uiPoint = uiAlong % uiPoints;
+            pBall->m_Position = vPoints[pBall->m_uiPoint] + CVector3(0.0f, LAP_RISE * (uiAlong / uiPoints), 0.0f);
             pBall->m_ucColour = static_cast<uint8_t>(i % 6);
             pBall->m_bPowerup = i % 10 == 0;
             Track.m_lstBalls.push_back(pBall);
