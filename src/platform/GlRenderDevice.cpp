@@ -188,6 +188,8 @@ std::unique_ptr<IMesh> CGlRenderDevice::CreateSphere(float fRadius, uint32_t uiS
 std::unique_ptr<ITexture> CGlRenderDevice::CreateTextureFromFile(const char* pFileName)
 {
     const CSurfacePtr pPicture = LoadPicture(pFileName);
+    if(pPicture)
+        m_LastPicture = {pFileName, static_cast<uint32_t>(pPicture->w), static_cast<uint32_t>(pPicture->h)};
     CGlTextureRef pName = pPicture ? TextureFromSurface(pPicture.get()) : nullptr;
     if(!pName)
         return nullptr;
@@ -202,8 +204,16 @@ std::unique_ptr<IFont> CGlRenderDevice::CreateFont(int32_t iHeight, uint32_t uiW
     return CGlFont::Create(*this, iHeight, uiWeight);
 }
 
+// The game asks for a picture's size right after making its texture: the size of that load answers, so the
+// file is decoded once.
 bool CGlRenderDevice::GetImageInfoFromFile(const char* pFileName, uint32_t& uiWidth, uint32_t& uiHeight)
 {
+    if(pFileName && m_LastPicture.m_Path == pFileName)
+    {
+        uiWidth = m_LastPicture.m_uiWidth;
+        uiHeight = m_LastPicture.m_uiHeight;
+        return true;
+    }
     const CSurfacePtr pPicture = LoadPicture(pFileName);
     if(!pPicture)
         return false;

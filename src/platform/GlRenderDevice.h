@@ -8,6 +8,7 @@
 #include "platform/RenderDevice.h"
 
 #include <map>
+#include <string>
 #include <vector>
 
 class CGlBackBuffer;
@@ -100,5 +101,12 @@ private:
     CGlTextureRef m_pWhite;
     CGlTextureRef m_pTexture; // what stage 0 reads: the set texture, or the white one
     bool m_bFonts = false;
+    struct CPictureSize
+    {
+        std::string m_Path;
+        uint32_t m_uiWidth = 0;
+        uint32_t m_uiHeight = 0;
+    };
+    CPictureSize m_LastPicture; // the file of the last texture made, and its size
     CGlSphereBatch m_Spheres;
 };
