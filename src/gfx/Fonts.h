@@ -12,6 +12,11 @@ enum
     FONT_LARGE = 2,  // the letters of the powerup stack
 };
 
+// The colours the screens write in.
+constexpr uint32_t TEXT_WHITE = 0xFFFFFFFF;
+constexpr uint32_t TEXT_BLACK = 0xFF000000;
+constexpr uint32_t TEXT_OWN_PLAYER = 0xFFEE11EE; // this player's name, label or score among the others
+
 extern std::unique_ptr<IFont> g_pFontSmall;
 extern std::unique_ptr<IFont> g_pFontMedium;
 extern std::unique_ptr<IFont> g_pFontLarge;

@@ -9,10 +9,7 @@
 
 namespace
 {
-constexpr uint32_t WHITE = 0xFFFFFFFF;
-constexpr uint32_t BLACK = 0xFF000000;
 constexpr uint32_t NUMBER_COLOUR = 0xFF88CCCC;
-constexpr uint32_t OWN_PLAYER_COLOUR = 0xFFEE11EE;
 constexpr uint32_t MESSAGE_LIFE_MS = 2000;
 constexpr int32_t STACK_X = 10;
 constexpr int32_t STACK_TOP = 12;
@@ -52,15 +49,6 @@ float LeadFraction(const CTrack& Track)
     return vDistances[pLead->m_uiPoint] / vDistances.back();
 }
 
-// Balls still to clear: those rolling and those waiting in the queues.
-uint32_t BallsRemaining(const CLevel& Level)
-{
-    size_t uCount = 0;
-    for(const CTrack& Track : Level.m_vTracks)
-        uCount += Track.m_vColourQueue.size() + Track.m_lstBalls.size();
-    return static_cast<uint32_t>(uCount);
-}
-
 // Chat lines and notices stay up for a while of real time, whatever the frame rate; the unsigned difference
 // holds across the counter's wrap.
 bool IsRecent(uint32_t uiTime)
@@ -73,13 +61,13 @@ bool IsRecent(uint32_t uiTime)
 void DrawCounters(const CGame& Game)
 {
     const CLevel& Level = Game.m_Level;
-    DrawGameText("Next:", 500, 40, BLACK, FONT_MEDIUM);
+    DrawGameText("Next:", 500, 40, TEXT_BLACK, FONT_MEDIUM);
     DrawNumber(Game.m_nScore, 640, 12, NUMBER_COLOUR);
-    DrawGameText("Balls remaining:", 500, 60, WHITE, FONT_MEDIUM);
-    DrawNumber(BallsRemaining(Level), 660, 60, WHITE);
-    DrawGameText("Next:", 500, 40, WHITE, FONT_MEDIUM);
+    DrawGameText("Balls remaining:", 500, 60, TEXT_WHITE, FONT_MEDIUM);
+    DrawNumber(Level.BallsToClear(), 660, 60, TEXT_WHITE);
+    DrawGameText("Next:", 500, 40, TEXT_WHITE, FONT_MEDIUM);
     DrawNumber(Game.m_nScore, 640, 12, NUMBER_COLOUR);
-    DrawGameText("Time:", 500, 80, WHITE, FONT_MEDIUM);
+    DrawGameText("Time:", 500, 80, TEXT_WHITE, FONT_MEDIUM);
     DrawGameText(":", 572, 80, NUMBER_COLOUR, FONT_MEDIUM);
     DrawNumber(Level.m_Countdown.GetMinutes(), 560, 80, NUMBER_COLOUR);
     DrawNumber(Level.m_Countdown.GetSeconds(), 580, 80, NUMBER_COLOUR);
@@ -92,7 +80,7 @@ void DrawPowerupStack(const CPowerupManager& Powerups)
     for(uint32_t i = 0; i < uiShown; i++)
     {
         const char szLetter[2] = {Powerups.m_acStack[i], '\0'};
-        DrawGameText(szLetter, STACK_X, STACK_TOP + STACK_STEP * static_cast<int32_t>(i), WHITE, FONT_LARGE);
+        DrawGameText(szLetter, STACK_X, STACK_TOP + STACK_STEP * static_cast<int32_t>(i), TEXT_WHITE, FONT_LARGE);
     }
 }
 
@@ -107,7 +95,7 @@ void DrawPlayers(CGraphicsEngine& Engine, const CNetwork& Network)
         char szLabel[8];
         std::snprintf(szLabel, sizeof(szLabel), "%d: ", i + 1);
         DrawGameText(szLabel, PLAYER_LABEL_X + PLAYER_STEP * i, PLAYER_LABEL_Y,
-                     i == iMySlot ? OWN_PLAYER_COLOUR : WHITE, FONT_MEDIUM);
+                     i == iMySlot ? TEXT_OWN_PLAYER : TEXT_WHITE, FONT_MEDIUM);
         Engine.DrawSprite(Engine.m_aSprites[SPR_HUD_FACE1 + i]);
     }
 }
@@ -116,13 +104,13 @@ void DrawMessages(CGraphicsEngine& Engine, const CGame& Game)
 {
     const CNetwork& Network = Game.m_Network;
     if(IsRecent(Network.m_nChatTime))
-        DrawGameText(Network.m_szChatLine, 50, 80, WHITE, FONT_MEDIUM);
+        DrawGameText(Network.m_szChatLine, 50, 80, TEXT_WHITE, FONT_MEDIUM);
     if(IsRecent(Network.m_nNoticeTime))
-        DrawGameText(Game.m_Powerups.m_szNotice, 90, 110, WHITE, FONT_MEDIUM);
+        DrawGameText(Game.m_Powerups.m_szNotice, 90, 110, TEXT_WHITE, FONT_MEDIUM);
     if(g_bChatOpen)
     {
         Engine.DrawSprite(Engine.m_aSprites[SPR_CHAT_BOX]);
-        DrawGameText(Network.m_szChatInput, 50, 300, WHITE, FONT_MEDIUM);
+        DrawGameText(Network.m_szChatInput, 50, 300, TEXT_WHITE, FONT_MEDIUM);
     }
 }
 

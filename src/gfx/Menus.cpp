@@ -11,9 +11,7 @@
 
 namespace
 {
-constexpr uint32_t BLACK = 0xFF000000;
 constexpr uint32_t SELECTED_TRACK_RED = 0xFFFF0000;
-constexpr uint32_t OWN_PLAYER_COLOUR = 0xFFEE11EE;
 
 // The track list: rows below the top of the list's area, each a file name without its folder.
 constexpr uint32_t ROW_HEIGHT = 18;
@@ -100,7 +98,7 @@ void ButtonStep(CGraphicsEngine& Engine, ESprite Button, int iHotSpot, const CMo
 template <size_t N> void DrawField(const char (&szText)[N], int32_t iX, int32_t iY)
 {
     const std::string Text(szText, std::find(szText, szText + N, '\0'));
-    DrawGameText(Text.c_str(), iX, iY, BLACK, FONT_SMALL);
+    DrawGameText(Text.c_str(), iX, iY, TEXT_BLACK, FONT_SMALL);
 }
 
 uint32_t TrackCount()
@@ -155,7 +153,7 @@ void DrawTrackRows(const CGraphicsEngine& Engine)
         const std::string& File = vFiles[uiTrack];
         const std::string Row = File.substr(std::min(File.size(), FOLDER_PREFIX_CHARS), ROW_TEXT_CHARS);
         const int32_t iY = FIRST_ROW_TEXT_Y + static_cast<int32_t>(ROW_HEIGHT * (uiTrack - uiFirst));
-        const uint32_t uiColour = uiTrack == Engine.m_nSelectedTrack ? SELECTED_TRACK_RED : BLACK;
+        const uint32_t uiColour = uiTrack == Engine.m_nSelectedTrack ? SELECTED_TRACK_RED : TEXT_BLACK;
         DrawGameText(Row.c_str(), ROW_TEXT_X, iY, uiColour, FONT_SMALL);
     }
 }
@@ -184,7 +182,7 @@ void DrawPlayerNames()
             continue;
         char szName[16];
         std::snprintf(szName, sizeof(szName), "Player %d", i + 1);
-        DrawGameText(szName, NAMES_X, FIRST_LINE_Y + LINE_SPACING * i, i == iMySlot ? OWN_PLAYER_COLOUR : BLACK,
+        DrawGameText(szName, NAMES_X, FIRST_LINE_Y + LINE_SPACING * i, i == iMySlot ? TEXT_OWN_PLAYER : TEXT_BLACK,
                      FONT_SMALL);
     }
 }

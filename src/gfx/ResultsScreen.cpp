@@ -8,9 +8,7 @@
 namespace
 {
 constexpr uint32_t LABEL_COLOUR = 0xFF88CCCC;
-constexpr uint32_t WHITE = 0xFFFFFFFF;
 constexpr uint32_t HEADING_COLOUR = 0xFFFF1111;
-constexpr uint32_t OWN_PLAYER_COLOUR = 0xFFEE11EE;
 constexpr int32_t LEFT = 200;
 constexpr int32_t STATS_TOP = 350;
 constexpr int32_t STATS_STEP = 22;
@@ -50,7 +48,7 @@ void DrawStatistics(const CGame& Game)
     for(const CStatRow& Row : aRows)
     {
         iY += STATS_STEP;
-        DrawLabelAndValue(Row.m_pLabel, LEFT, LABEL_COLOUR, Row.m_uiValue, Row.m_iValueX, iY, WHITE);
+        DrawLabelAndValue(Row.m_pLabel, LEFT, LABEL_COLOUR, Row.m_uiValue, Row.m_iValueX, iY, TEXT_WHITE);
     }
 }
 
@@ -80,7 +78,7 @@ void DrawScoreList(const CNetwork& Network)
         std::snprintf(szLabel, sizeof(szLabel), "Player %d:", i + 1);
         const int32_t iX = i < PLAYERS_PER_COLUMN ? LEFT : RIGHT_COLUMN;
         const int32_t iY = LIST_TOP + LIST_STEP * (i % PLAYERS_PER_COLUMN);
-        const uint32_t uiColour = i == iMySlot ? OWN_PLAYER_COLOUR : WHITE;
+        const uint32_t uiColour = i == iMySlot ? TEXT_OWN_PLAYER : TEXT_WHITE;
         DrawLabelAndValue(szLabel, iX, uiColour, Network.m_Scores[i].m_nScore, iX + SCORE_OFFSET, iY, uiColour);
     }
 }

@@ -174,16 +174,12 @@ void CRecordingRenderDevice::SetStreamSource(IVertexBuffer* pBuffer, uint32_t ui
 
 void CRecordingRenderDevice::DrawPrimitive(EPrimitive Type, uint32_t uiStartVertex, uint32_t uiPrimitiveCount)
 {
-    CDraw Draw;
+    CDraw Draw = DrawWithStates();
     Draw.m_Type = Type;
     Draw.m_uiStart = uiStartVertex;
     Draw.m_uiCount = uiPrimitiveCount;
     Draw.m_uiFVF = m_uiFVF;
     Draw.m_uiStride = m_uiStride;
-    Draw.m_Texture = m_pTexture ? static_cast<CRecordingTexture*>(m_pTexture)->m_File : "";
-    Draw.m_World = m_World;
-    Draw.m_Material = m_Material;
-    Draw.m_auiStates = m_auiStates;
     const std::vector<uint8_t> Empty;
     const std::vector<uint8_t>& vBytes = m_pStream ? static_cast<CRecordingBuffer*>(m_pStream)->m_vBytes : Empty;
     const size_t uFirst = static_cast<size_t>(uiStartVertex) * m_uiStride;
@@ -197,15 +193,21 @@ void CRecordingRenderDevice::DrawPrimitive(EPrimitive Type, uint32_t uiStartVert
     Log("DrawPrimitive " + std::to_string(Type) + " " + std::to_string(uiPrimitiveCount));
 }
 
-void CRecordingRenderDevice::RecordMeshDraw()
+// What every draw is drawn with: the world matrix, the material, the states and the bound picture.
+CRecordingRenderDevice::CDraw CRecordingRenderDevice::DrawWithStates() const
 {
     CDraw Draw;
     Draw.m_World = m_World;
     Draw.m_Material = m_Material;
     Draw.m_auiStates = m_auiStates;
     Draw.m_Texture = m_pTexture ? static_cast<CRecordingTexture*>(m_pTexture)->m_File : "";
+    return Draw;
+}
+
+void CRecordingRenderDevice::RecordMeshDraw()
+{
     if(m_bRecording)
-        m_vDraws.push_back(std::move(Draw));
+        m_vDraws.push_back(DrawWithStates());
     Log("DrawSubset");
 }
 

@@ -106,6 +106,7 @@ private:
     friend class CRecordingMesh;
     friend class CRecordingFont;
     void Log(std::string Entry);
+    CDraw DrawWithStates() const;
     void RecordMeshDraw();
     void RecordText(const CText& Text);
 };

@@ -45,10 +45,7 @@ void CChainLogic::EndLevel(bool bWon)
 // Shots in flight and pushers don't count: a level is cleared when no ball rolls and none waits.
 void CChainLogic::CheckCleared()
 {
-    size_t Balls = 0;
-    for(const CTrack& Track : m_pLevel->m_vTracks)
-        Balls += Track.m_lstBalls.size() + Track.m_vColourQueue.size();
-    if(Balls == 0)
+    if(m_pLevel->BallsToClear() == 0)
         EndLevel(true);
 }
 

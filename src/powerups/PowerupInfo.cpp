@@ -6,7 +6,6 @@
 
 namespace
 {
-constexpr uint32_t WHITE = 0xFFFFFFFF;
 constexpr int32_t INFO_X = 48;
 constexpr int32_t DESCRIPTION_Y = 12;
 constexpr int32_t HINT_Y = 33;
@@ -20,7 +19,7 @@ void CPowerupManager::DrawPowerupInfo() const
         return;
     const char* pHint =
         g_pGame->m_Network.m_bNetGame ? "Press a number to use powerup on target" : "Press space bar to use powerup";
-    DrawGameText(pHint, INFO_X, HINT_Y, WHITE, FONT_MEDIUM);
+    DrawGameText(pHint, INFO_X, HINT_Y, TEXT_WHITE, FONT_MEDIUM);
     if(const CPowerupInfo* pInfo = FindPowerup(m_acStack[0]))
-        DrawGameText(pInfo->m_pDescription, INFO_X, DESCRIPTION_Y, WHITE, FONT_MEDIUM);
+        DrawGameText(pInfo->m_pDescription, INFO_X, DESCRIPTION_Y, TEXT_WHITE, FONT_MEDIUM);
 }

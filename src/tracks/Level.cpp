@@ -91,6 +91,14 @@ void CLevel::NextCameraPath()
     }
 }
 
+uint32_t CLevel::BallsToClear() const
+{
+    size_t uCount = 0;
+    for(const CTrack& Track : m_vTracks)
+        uCount += Track.m_lstBalls.size() + Track.m_vColourQueue.size();
+    return static_cast<uint32_t>(uCount);
+}
+
 void CLevel::BuildAllLines()
 {
     for(CCameraPath& Path : m_vCameraPaths)

@@ -31,6 +31,8 @@ public:
     bool Load(const char* pFileName, uint32_t uiRound);
     void Clear();
     void CountColours();
+    // Balls still to clear: those rolling on the tracks and those waiting to enter them.
+    uint32_t BallsToClear() const;
     void MoveForward(uint32_t uiSteps);
     void MoveBack(uint32_t uiSteps);
     void NextCameraPath();

@@ -28,16 +28,7 @@ uint32_t Word(const std::string& Bytes, size_t uIndex)
         uiValue = uiValue << 8 | static_cast<uint8_t>(Bytes[uIndex * 4 + i]);
     return uiValue;
 }
-} // namespace
 
-uint32_t CPicture::Rgb(int x, int y) const
-{
-    const uint8_t* p = &m_vRgba[(static_cast<size_t>(y) * m_iWidth + x) * 4];
-    return static_cast<uint32_t>(p[0]) << 16 | static_cast<uint32_t>(p[1]) << 8 | p[2];
-}
-
-namespace
-{
 bool SamePixel(const uint8_t* pMine, const uint8_t* pTheirs, int iTolerance)
 {
     for(int c = 0; c < 3; c++)
@@ -65,6 +56,12 @@ void ForOpaquePixels(const CPicture& Picture, const CPicture& Other, int iX, int
     }
 }
 } // namespace
+
+uint32_t CPicture::Rgb(int x, int y) const
+{
+    const uint8_t* p = &m_vRgba[(static_cast<size_t>(y) * m_iWidth + x) * 4];
+    return static_cast<uint32_t>(p[0]) << 16 | static_cast<uint32_t>(p[1]) << 8 | p[2];
+}
 
 bool CPicture::Shows(const CPicture& Other, int iX, int iY, int iTolerance) const
 {
