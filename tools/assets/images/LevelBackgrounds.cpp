@@ -55,10 +55,10 @@ Canvas ocean()
     stars(c, 3101, 260, 0, 280, 0.6f);
     haze(c, {3102, hex(0x3a5a8a), 200, 0.12f, 0.5f, 120, 340});
     moon(c, 610, 140, 24, hex(0xb4bccb), 0.14f);
-    c.paint(belowRidge(kScreenWidth, kScreenHeight, [kHorizon](float) { return kHorizon; }),
+    c.paint(belowRidge(kScreenWidth, kScreenHeight, [](float) { return kHorizon; }),
             vertical(kHorizon, kScreenHeight, {{0.0f, hex(0x0d2038)}, {1.0f, hex(0x02060e)}}));
     // A far headland on the horizon.
-    layer(c, [kHorizon](float x) { return x < 260 ? kHorizon - 18 * (1 - x / 260) * (1 - x / 260) - 2 : kHorizon + 1; },
+    layer(c, [](float x) { return x < 260 ? kHorizon - 18 * (1 - x / 260) * (1 - x / 260) - 2 : kHorizon + 1; },
           hex(0x06101e));
     waterGlints(c, 3103, 610, kHorizon, 60, hex(0xc8d6ea));
     waterGlints(c, 3104, 400, kHorizon, 380, hex(0x3a5a80));
