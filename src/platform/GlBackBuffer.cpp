@@ -31,14 +31,14 @@ CGlBackBuffer::~CGlBackBuffer()
     Release();
 }
 
-bool CGlBackBuffer::Create()
+bool CGlBackBuffer::Create(CSdlWindow& Window)
 {
     m_Gl.m_pfnGenRenderbuffers(1, &m_uiColour);
     m_Gl.m_pfnBindRenderbuffer(GL_RENDERBUFFER, m_uiColour);
     m_Gl.m_pfnRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, WIDTH, HEIGHT);
     m_Gl.m_pfnGenRenderbuffers(1, &m_uiDepth);
     m_Gl.m_pfnBindRenderbuffer(GL_RENDERBUFFER, m_uiDepth);
-    m_Gl.m_pfnRenderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT24, WIDTH, HEIGHT);
+    m_Gl.m_pfnRenderbufferStorage(GL_RENDERBUFFER, GL_DEPTH_COMPONENT16, WIDTH, HEIGHT);
     m_Gl.m_pfnGenFramebuffers(1, &m_uiFramebuffer);
     m_Gl.m_pfnBindFramebuffer(GL_FRAMEBUFFER, m_uiFramebuffer);
     m_Gl.m_pfnFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, m_uiColour);
@@ -49,10 +49,28 @@ bool CGlBackBuffer::Create()
         return false;
     }
     glViewport(0, 0, WIDTH, HEIGHT);
+    Target(Window);
     return true;
 }
 
+// A window of the back buffer's own size needs no scaling, and drawing into it spares the copy of every frame.
+void CGlBackBuffer::Target(const CSdlWindow& Window)
+{
+    int iWidth = 0, iHeight = 0;
+    Window.GetDrawableSize(iWidth, iHeight);
+    m_bDirect = Window.IsShown() && iWidth == WIDTH && iHeight == HEIGHT;
+    m_Gl.m_pfnBindFramebuffer(GL_FRAMEBUFFER, m_bDirect ? 0 : m_uiFramebuffer);
+}
+
 void CGlBackBuffer::Present(CSdlWindow& Window)
+{
+    if(!m_bDirect)
+        Blit(Window);
+    Window.SwapBuffers();
+    Target(Window);
+}
+
+void CGlBackBuffer::Blit(const CSdlWindow& Window)
 {
     int iWidth = 0, iHeight = 0;
     Window.GetDrawableSize(iWidth, iHeight);
@@ -66,8 +84,6 @@ void CGlBackBuffer::Present(CSdlWindow& Window)
     }
     m_Gl.m_pfnBlitFramebuffer(0, 0, WIDTH, HEIGHT, Place.m_iX, Place.m_iY, Place.m_iX + Place.m_iWidth,
                               Place.m_iY + Place.m_iHeight, GL_COLOR_BUFFER_BIT, GL_LINEAR);
-    Window.SwapBuffers();
-    m_Gl.m_pfnBindFramebuffer(GL_FRAMEBUFFER, m_uiFramebuffer);
 }
 
 bool CGlBackBuffer::ReadPixels(std::vector<uint8_t>& vRgba) const

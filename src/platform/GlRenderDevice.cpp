@@ -38,7 +38,7 @@ bool CGlRenderDevice::Init(CSdlWindow& Window)
         return false;
     auto pBackBuffer = std::make_unique<CGlBackBuffer>(m_Gl);
     m_pWhite = WhiteTexture();
-    if(!pBackBuffer->Create() || !m_pWhite)
+    if(!pBackBuffer->Create(Window) || !m_pWhite)
         return false;
     m_pBackBuffer = std::move(pBackBuffer);
     m_pWindow = &Window;

@@ -50,6 +50,11 @@ bool CSdlWindow::Create(const char* pTitle, const char** ppError, bool bHidden)
     return true;
 }
 
+bool CSdlWindow::IsShown() const
+{
+    return m_pWindow && (SDL_GetWindowFlags(m_pWindow) & SDL_WINDOW_SHOWN) != 0;
+}
+
 bool CSdlWindow::IsOpen() const
 {
     return m_bOpen;

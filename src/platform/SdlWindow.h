@@ -27,6 +27,7 @@ public:
     void SwapBuffers();
     // The size of the drawable area in pixels, which the 800x600 picture is scaled into.
     void GetDrawableSize(int& iWidth, int& iHeight) const;
+    bool IsShown() const;
 
 private:
     void TypeCharacters(const SDL_Event& Event);
