@@ -4,6 +4,8 @@
 
 #include <GL/gl.h>
 
+#include <cstdint>
+
 namespace
 {
 // As many vertices as 16-bit indices reach: some seven hundred of the game's balls. A frame full of them takes a
@@ -69,16 +71,11 @@ void CGlSphereBatch::Add(const CSphereGeometryRef& pGeometry, const CMatrixData&
     m_vDraws.push_back({World, Material});
 }
 
-void CGlSphereBatch::Draw(const CMatrixData& View, const CEyeLights& Lights)
+void CGlSphereBatch::Draw(const CScene& Scene)
 {
-    const size_t uPerSphere = m_pGeometry->m_vVertices.size();
-    const size_t uVertices = m_vDraws.size() * uPerSphere;
-    if(m_vVertices.size() < uVertices)
-        m_vVertices.resize(uVertices);
-    FaceUnturned(View, Lights);
-    for(size_t i = 0; i < m_vDraws.size(); i++)
-        Light(m_vDraws[i], View, Lights, &m_vVertices[i * uPerSphere]);
-    IndexSpheres(m_vDraws.size());
+    Prepare(Scene);
+    for(const CDraw& Draw : m_vDraws)
+        Gather(Draw, Scene);
     const GLsizei iStride = sizeof(CLitVertex);
     glVertexPointer(3, GL_FLOAT, iStride, &m_vVertices[0].x);
     glEnableClientState(GL_COLOR_ARRAY);
@@ -86,48 +83,88 @@ void CGlSphereBatch::Draw(const CMatrixData& View, const CEyeLights& Lights)
     // The mesh has no texture coordinates: a texture is read at its corner, as the mesh drawn alone reads it.
     glDisableClientState(GL_TEXTURE_COORD_ARRAY);
     glTexCoord2f(0.0f, 0.0f);
-    const size_t uIndices = m_vDraws.size() * m_pGeometry->m_vIndices.size();
-    glDrawRangeElements(GL_TRIANGLES, 0, static_cast<GLuint>(uVertices - 1), static_cast<GLsizei>(uIndices),
-                        GL_UNSIGNED_SHORT, m_vIndices.data());
+    for(const CRun& Run : m_vRuns)
+        DrawRun(Run, Scene.m_bOpaqueUnblended);
     m_vDraws.clear();
 }
 
-void CGlSphereBatch::FaceUnturned(const CMatrixData& View, const CEyeLights& Lights)
+void CGlSphereBatch::Prepare(const CScene& Scene)
 {
-    const CMatrix3 ToEye = NormalsToEye(Linear(View));
+    if(m_pPrepared != m_pGeometry)
+    {
+        m_pFaces = std::make_unique<CMeshFaces>(*m_pGeometry);
+        m_pPrepared = m_pGeometry;
+    }
+    const CMatrix3 ToEye = NormalsToEye(Linear(Scene.m_View));
     m_vUnturnedFacing.clear();
     for(const CMeshVertex& Vertex : m_pGeometry->m_vVertices)
-        m_vUnturnedFacing.push_back(FacingOf(Lights, NormalInEye(ToEye, Vertex)));
+        m_vUnturnedFacing.push_back(FacingOf(Scene.m_Lights, NormalInEye(ToEye, Vertex)));
+    m_vVertices.clear();
+    m_vIndices.clear();
+    m_vRuns.clear();
 }
 
-void CGlSphereBatch::Light(const CDraw& Draw, const CMatrixData& View, const CEyeLights& Lights, CLitVertex* pOut) const
+// Adds the triangles of one draw that the eye may see the fronts of, with their vertices moved and lit.
+void CGlSphereBatch::Gather(const CDraw& Draw, const CScene& Scene)
 {
-    const CLitMaterial Material(Draw.m_Material, Lights);
+    const std::optional<CVector3> Eye = EyeInMesh(Draw.m_World, Scene.m_View, Scene.m_Projection);
+    const CLitMaterial Material(Draw.m_Material, Scene.m_Lights);
     const bool bTurns = !TurnsNothing(Draw.m_World);
-    const CMatrix3 ToEye = NormalsToEye(Linear(Draw.m_World) * Linear(View));
+    const CMatrix3 ToEye = NormalsToEye(Linear(Draw.m_World) * Linear(Scene.m_View));
     const std::vector<CMeshVertex>& vVertices = m_pGeometry->m_vVertices;
-    for(size_t i = 0; i < vVertices.size(); i++)
+    const std::vector<uint16_t>& vSphere = m_pGeometry->m_vIndices;
+    const size_t uFirstIndex = m_vIndices.size(), uFirstVertex = m_vVertices.size();
+    m_vSlot.assign(vVertices.size(), UINT32_MAX);
+    for(size_t uTriangle = 0; uTriangle < m_pFaces->Count(); uTriangle++)
     {
-        const CMeshVertex& Vertex = vVertices[i];
-        const CFacing Facing = bTurns ? FacingOf(Lights, NormalInEye(ToEye, Vertex)) : m_vUnturnedFacing[i];
-        *pOut++ = {InWorld(Draw.m_World, Vertex, 0), InWorld(Draw.m_World, Vertex, 1), InWorld(Draw.m_World, Vertex, 2),
-                   Material.Colour(Facing)};
+        if(Eye && !m_pFaces->MaySee(*Eye, uTriangle))
+            continue;
+        for(size_t k = 0; k < 3; k++)
+        {
+            const uint16_t usVertex = vSphere[uTriangle * 3 + k];
+            if(m_vSlot[usVertex] == UINT32_MAX)
+            {
+                const CMeshVertex& Vertex = vVertices[usVertex];
+                const CFacing Facing =
+                    bTurns ? FacingOf(Scene.m_Lights, NormalInEye(ToEye, Vertex)) : m_vUnturnedFacing[usVertex];
+                m_vSlot[usVertex] = static_cast<uint32_t>(m_vVertices.size());
+                m_vVertices.push_back({InWorld(Draw.m_World, Vertex, 0), InWorld(Draw.m_World, Vertex, 1),
+                                       InWorld(Draw.m_World, Vertex, 2), Material.Colour(Facing)});
+            }
+            m_vIndices.push_back(static_cast<uint16_t>(m_vSlot[usVertex]));
+        }
     }
+    // GL clamps the alpha to one.
+    GrowRun(Draw.m_Material.m_Diffuse.a >= 1.0f, uFirstIndex, uFirstVertex);
 }
 
-// The triangles of as many spheres as have ever been drawn at once are kept, and a batch draws the first of them.
-void CGlSphereBatch::IndexSpheres(size_t uSpheres)
+void CGlSphereBatch::GrowRun(bool bOpaque, size_t uFirstIndex, size_t uFirstVertex)
 {
-    if(m_pIndexed != m_pGeometry)
+    if(m_vRuns.empty() || m_vRuns.back().m_bOpaque != bOpaque)
     {
-        m_vIndices.clear();
-        m_pIndexed = m_pGeometry;
+        CRun Run;
+        Run.m_uFirstIndex = uFirstIndex;
+        Run.m_uFirstVertex = uFirstVertex;
+        Run.m_bOpaque = bOpaque;
+        m_vRuns.push_back(Run);
     }
-    const std::vector<uint16_t>& vSphere = m_pGeometry->m_vIndices;
-    const size_t uPerSphere = m_pGeometry->m_vVertices.size();
-    for(size_t uSphere = m_vIndices.size() / vSphere.size(); uSphere < uSpheres; uSphere++)
-    {
-        for(uint16_t usIndex : vSphere)
-            m_vIndices.push_back(static_cast<uint16_t>(uSphere * uPerSphere + usIndex));
-    }
+    CRun& Run = m_vRuns.back();
+    Run.m_uIndices = m_vIndices.size() - Run.m_uFirstIndex;
+    Run.m_uVertices = m_vVertices.size() - Run.m_uFirstVertex;
+}
+
+// An opaque colour blended over what is there by its own alpha replaces it: skipping the blend spares the
+// driver reading the back buffer, and changes no pixel.
+void CGlSphereBatch::DrawRun(const CRun& Run, bool bOpaqueUnblended) const
+{
+    if(Run.m_uIndices == 0)
+        return;
+    const bool bUnblend = Run.m_bOpaque && bOpaqueUnblended;
+    if(bUnblend)
+        glDisable(GL_BLEND);
+    glDrawRangeElements(GL_TRIANGLES, static_cast<GLuint>(Run.m_uFirstVertex),
+                        static_cast<GLuint>(Run.m_uFirstVertex + Run.m_uVertices - 1),
+                        static_cast<GLsizei>(Run.m_uIndices), GL_UNSIGNED_SHORT, &m_vIndices[Run.m_uFirstIndex]);
+    if(bUnblend)
+        glEnable(GL_BLEND);
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/GlLighting.h"
+#include "platform/MeshFaces.h"
 #include "platform/SphereGeometry.h"
 
 #include <memory>
@@ -7,10 +8,11 @@
 
 typedef std::shared_ptr<const CSphereGeometry> CSphereGeometryRef;
 
-// Draws of one sphere mesh waiting to be drawn together, so that the driver sets up one draw where the game asks
-// for hundreds. The batch moves every draw's vertices into the world and lights them itself, then hands all their
-// triangles to GL in one call, in the order they came: GL draws the triangles of one call in order, so depth and
-// blending come out as they would draw by draw. Its arrays are kept from flush to flush.
+// Draws of one sphere mesh waiting to be drawn together, so that the driver sets up a few draws where the game
+// asks for hundreds. The batch moves every draw's vertices into the world and lights them itself, leaves out
+// the triangles whose backs the eye sees, and hands the rest to GL in the order they came: GL draws the
+// triangles of a call in order, so depth and blending come out as they would draw by draw. Its arrays are kept
+// from flush to flush.
 class CGlSphereBatch
 {
 public:
@@ -21,9 +23,18 @@ public:
     // Whether a draw of the geometry may join: a batch holds one geometry and a bounded number of vertices.
     bool Takes(const CSphereGeometry& Geometry) const;
     void Add(const CSphereGeometryRef& pGeometry, const CMatrixData& World, const CMaterial& Material);
+
+    // What the device is drawing with when the batch is drawn.
+    struct CScene
+    {
+        const CMatrixData& m_View;
+        const CMatrixData& m_Projection;
+        const CEyeLights& m_Lights;
+        bool m_bOpaqueUnblended; // blending leaves an opaque colour as it is, so opaque spheres may skip it
+    };
     // Draws everything added since the last time and empties the batch. GL's lighting must be off and its
     // modelview matrix the view.
-    void Draw(const CMatrixData& View, const CEyeLights& Lights);
+    void Draw(const CScene& Scene);
 
 private:
     struct CDraw
@@ -36,15 +47,26 @@ private:
         float x, y, z;
         std::array<float, 4> m_afColour;
     };
+    // Spheres in a row that are all opaque or all see-through, drawn with one call.
+    struct CRun
+    {
+        size_t m_uFirstIndex = 0, m_uIndices = 0;
+        size_t m_uFirstVertex = 0, m_uVertices = 0;
+        bool m_bOpaque = false;
+    };
 
-    void FaceUnturned(const CMatrixData& View, const CEyeLights& Lights);
-    void Light(const CDraw& Draw, const CMatrixData& View, const CEyeLights& Lights, CLitVertex* pOut) const;
-    void IndexSpheres(size_t uSpheres);
+    void Prepare(const CScene& Scene);
+    void Gather(const CDraw& Draw, const CScene& Scene);
+    void GrowRun(bool bOpaque, size_t uFirstIndex, size_t uFirstVertex);
+    void DrawRun(const CRun& Run, bool bOpaqueUnblended) const;
 
     CSphereGeometryRef m_pGeometry;
     std::vector<CDraw> m_vDraws;
+    CSphereGeometryRef m_pPrepared; // the geometry m_pFaces was made from
+    std::unique_ptr<CMeshFaces> m_pFaces;
     std::vector<CFacing> m_vUnturnedFacing; // of each vertex, for the draws whose world matrix turns nothing
+    std::vector<uint32_t> m_vSlot;          // where each vertex of the sphere being gathered went, if it did
     std::vector<CLitVertex> m_vVertices;
-    CSphereGeometryRef m_pIndexed;    // the geometry whose triangles m_vIndices repeats
-    std::vector<uint16_t> m_vIndices; // its triangles, sphere after sphere, each sphere's vertices after the last's
+    std::vector<uint16_t> m_vIndices;
+    std::vector<CRun> m_vRuns;
 };
