@@ -76,6 +76,9 @@ void CGlSphereBatch::Draw(const CScene& Scene)
     Prepare(Scene);
     for(const CDraw& Draw : m_vDraws)
         Gather(Draw, Scene);
+    m_vDraws.clear();
+    if(m_vIndices.empty())
+        return;
     const GLsizei iStride = sizeof(CLitVertex);
     glVertexPointer(3, GL_FLOAT, iStride, &m_vVertices[0].x);
     glEnableClientState(GL_COLOR_ARRAY);
@@ -83,9 +86,8 @@ void CGlSphereBatch::Draw(const CScene& Scene)
     // The mesh has no texture coordinates: a texture is read at its corner, as the mesh drawn alone reads it.
     glDisableClientState(GL_TEXTURE_COORD_ARRAY);
     glTexCoord2f(0.0f, 0.0f);
-    for(const CRun& Run : m_vRuns)
-        DrawRun(Run, Scene.m_bOpaqueUnblended);
-    m_vDraws.clear();
+    glDrawRangeElements(GL_TRIANGLES, 0, static_cast<GLuint>(m_vVertices.size() - 1),
+                        static_cast<GLsizei>(m_vIndices.size()), GL_UNSIGNED_SHORT, m_vIndices.data());
 }
 
 void CGlSphereBatch::Prepare(const CScene& Scene)
@@ -101,7 +103,6 @@ void CGlSphereBatch::Prepare(const CScene& Scene)
         m_vUnturnedFacing.push_back(FacingOf(Scene.m_Lights, NormalInEye(ToEye, Vertex)));
     m_vVertices.clear();
     m_vIndices.clear();
-    m_vRuns.clear();
 }
 
 // Adds the triangles of one draw that the eye may see the fronts of, with their vertices moved and lit.
@@ -113,7 +114,6 @@ void CGlSphereBatch::Gather(const CDraw& Draw, const CScene& Scene)
     const CMatrix3 ToEye = NormalsToEye(Linear(Draw.m_World) * Linear(Scene.m_View));
     const std::vector<CMeshVertex>& vVertices = m_pGeometry->m_vVertices;
     const std::vector<uint16_t>& vSphere = m_pGeometry->m_vIndices;
-    const size_t uFirstIndex = m_vIndices.size(), uFirstVertex = m_vVertices.size();
     m_vSlot.assign(vVertices.size(), UINT32_MAX);
     for(size_t uTriangle = 0; uTriangle < m_pFaces->Count(); uTriangle++)
     {
@@ -134,37 +134,4 @@ void CGlSphereBatch::Gather(const CDraw& Draw, const CScene& Scene)
             m_vIndices.push_back(static_cast<uint16_t>(m_vSlot[usVertex]));
         }
     }
-    // GL clamps the alpha to one.
-    GrowRun(Draw.m_Material.m_Diffuse.a >= 1.0f, uFirstIndex, uFirstVertex);
-}
-
-void CGlSphereBatch::GrowRun(bool bOpaque, size_t uFirstIndex, size_t uFirstVertex)
-{
-    if(m_vRuns.empty() || m_vRuns.back().m_bOpaque != bOpaque)
-    {
-        CRun Run;
-        Run.m_uFirstIndex = uFirstIndex;
-        Run.m_uFirstVertex = uFirstVertex;
-        Run.m_bOpaque = bOpaque;
-        m_vRuns.push_back(Run);
-    }
-    CRun& Run = m_vRuns.back();
-    Run.m_uIndices = m_vIndices.size() - Run.m_uFirstIndex;
-    Run.m_uVertices = m_vVertices.size() - Run.m_uFirstVertex;
-}
-
-// An opaque colour blended over what is there by its own alpha replaces it: skipping the blend spares the
-// driver reading the back buffer, and changes no pixel.
-void CGlSphereBatch::DrawRun(const CRun& Run, bool bOpaqueUnblended) const
-{
-    if(Run.m_uIndices == 0)
-        return;
-    const bool bUnblend = Run.m_bOpaque && bOpaqueUnblended;
-    if(bUnblend)
-        glDisable(GL_BLEND);
-    glDrawRangeElements(GL_TRIANGLES, static_cast<GLuint>(Run.m_uFirstVertex),
-                        static_cast<GLuint>(Run.m_uFirstVertex + Run.m_uVertices - 1),
-                        static_cast<GLsizei>(Run.m_uIndices), GL_UNSIGNED_SHORT, &m_vIndices[Run.m_uFirstIndex]);
-    if(bUnblend)
-        glEnable(GL_BLEND);
 }

@@ -8,7 +8,7 @@
 
 typedef std::shared_ptr<const CSphereGeometry> CSphereGeometryRef;
 
-// Draws of one sphere mesh waiting to be drawn together, so that the driver sets up a few draws where the game
+// Draws of one sphere mesh waiting to be drawn together, so that the driver sets up one draw where the game
 // asks for hundreds. The batch moves every draw's vertices into the world and lights them itself, leaves out
 // the triangles whose backs the eye sees, and hands the rest to GL in the order they came: GL draws the
 // triangles of a call in order, so depth and blending come out as they would draw by draw. Its arrays are kept
@@ -30,7 +30,6 @@ public:
         const CMatrixData& m_View;
         const CMatrixData& m_Projection;
         const CEyeLights& m_Lights;
-        bool m_bOpaqueUnblended; // blending leaves an opaque colour as it is, so opaque spheres may skip it
     };
     // Draws everything added since the last time and empties the batch. GL's lighting must be off and its
     // modelview matrix the view.
@@ -47,18 +46,8 @@ private:
         float x, y, z;
         std::array<float, 4> m_afColour;
     };
-    // Spheres in a row that are all opaque or all see-through, drawn with one call.
-    struct CRun
-    {
-        size_t m_uFirstIndex = 0, m_uIndices = 0;
-        size_t m_uFirstVertex = 0, m_uVertices = 0;
-        bool m_bOpaque = false;
-    };
-
     void Prepare(const CScene& Scene);
     void Gather(const CDraw& Draw, const CScene& Scene);
-    void GrowRun(bool bOpaque, size_t uFirstIndex, size_t uFirstVertex);
-    void DrawRun(const CRun& Run, bool bOpaqueUnblended) const;
 
     CSphereGeometryRef m_pGeometry;
     std::vector<CDraw> m_vDraws;
@@ -68,5 +57,4 @@ private:
     std::vector<uint32_t> m_vSlot;          // where each vertex of the sphere being gathered went, if it did
     std::vector<CLitVertex> m_vVertices;
     std::vector<uint16_t> m_vIndices;
-    std::vector<CRun> m_vRuns;
 };

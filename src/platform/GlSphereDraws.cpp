@@ -44,9 +44,7 @@ void CGlRenderDevice::FlushSpheres()
         glDisable(GL_TEXTURE_2D);
     glLoadMatrixf(m_View.data());
     const CEyeLights Lights = EyeLights();
-    const bool bBlendByAlpha = m_auiStates[RS_ALPHABLENDENABLE] != 0 && m_auiStates[RS_SRCBLEND] == BLEND_SRCALPHA &&
-                               m_auiStates[RS_DESTBLEND] == BLEND_INVSRCALPHA;
-    m_Spheres.Draw({m_View, m_Projection, Lights, bBlendByAlpha});
+    m_Spheres.Draw({m_View, m_Projection, Lights});
     glEnable(GL_TEXTURE_2D);
     glEnable(GL_LIGHTING);
     ApplyModelView();
