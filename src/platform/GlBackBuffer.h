@@ -6,8 +6,8 @@
 
 class CSdlWindow;
 
-// The game's 800x600 back buffer (colour RGBA8 and a 16-bit depth buffer, as the game asks for). A shown window
-// whose drawable is exactly 800x600 is drawn into directly. Otherwise the frame goes to an offscreen framebuffer,
+// The game's 800x600 back buffer. A shown window whose drawable is exactly 800x600 is drawn into directly.
+// Otherwise the frame goes to an offscreen framebuffer (colour RGBA8 and the 16-bit depth the game asks for),
 // and presenting scales that into the window with its 4:3 shape kept and black bars around.
 class CGlBackBuffer
 {
