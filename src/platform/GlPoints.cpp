@@ -2,6 +2,7 @@
 #include "platform/GlRenderDevice.h"
 
 #include "math/FloatBits.h"
+#include "platform/GameMatrix.h"
 #include "platform/GlScreenSpace.h"
 
 #include <algorithm>
@@ -27,16 +28,6 @@ const CVertexLayout CORNER_LAYOUT = LayoutOf(FVF_XYZ | FVF_DIFFUSE | FVF_TEX1);
 float LimitPointSize(float fSize, float fMinimum)
 {
     return std::min(std::max(fSize, fMinimum), MAX_POINT_SIZE);
-}
-
-// A position moved by one of the game's matrices, which act on row vectors.
-std::array<float, 4> Transform(const CMatrixData& Matrix, const std::array<float, 4>& Position)
-{
-    std::array<float, 4> Moved;
-    for(size_t i = 0; i < Moved.size(); i++)
-        Moved[i] = Position[0] * Matrix[i] + Position[1] * Matrix[4 + i] + Position[2] * Matrix[8 + i] +
-                   Position[3] * Matrix[12 + i];
-    return Moved;
 }
 
 // Direct3D drops a point whose centre is outside the view, however big the point.
@@ -87,8 +78,8 @@ void CGlRenderDevice::DrawScaledPoints(const CVertexLayout& Layout, const uint8_
         const uint8_t* pVertex = pFirst + static_cast<size_t>(i) * m_uiStride;
         const auto Position = Field<std::array<float, 3>>(pVertex, 0);
         const std::array<float, 4> Eye =
-            Transform(m_View, Transform(m_World, {Position[0], Position[1], Position[2], 1}));
-        const std::array<float, 4> Clip = Transform(m_Projection, Eye);
+            Transformed(m_View, Transformed(m_World, {Position[0], Position[1], Position[2], 1}));
+        const std::array<float, 4> Clip = Transformed(m_Projection, Eye);
         if(!InView(Clip))
             continue;
         const float fHalf = 0.5f * ScaledPointSize(std::sqrt(Eye[0] * Eye[0] + Eye[1] * Eye[1] + Eye[2] * Eye[2]));

@@ -1,6 +1,6 @@
 #include "platform/GlSphereBatch.h"
 
-#include "math/Matrix.h"
+#include "platform/GameMatrix.h"
 
 #include <GL/gl.h>
 
@@ -11,17 +11,6 @@ namespace
 // As many vertices as 16-bit indices reach: some seven hundred of the game's balls. A frame full of them takes a
 // batch or two, and the arrays stay a few megabytes however many are drawn.
 constexpr size_t MAX_VERTICES = 1 << 16;
-
-// The part of one of the game's matrices that turns directions.
-CMatrix3 Linear(const CMatrixData& Matrix)
-{
-    return CMatrix3(Matrix[0], Matrix[1], Matrix[2], Matrix[4], Matrix[5], Matrix[6], Matrix[8], Matrix[9], Matrix[10]);
-}
-
-bool IsAffine(const CMatrixData& Matrix)
-{
-    return Matrix[3] == 0.0f && Matrix[7] == 0.0f && Matrix[11] == 0.0f && Matrix[15] == 1.0f;
-}
 
 // A world matrix that grows the mesh evenly and moves it leaves every normal's direction as the view alone
 // turns it: each ball's world matrix is such.
@@ -111,7 +100,8 @@ void CGlSphereBatch::Gather(const CDraw& Draw, const CScene& Scene)
     const std::optional<CVector3> Eye = EyeInMesh(Draw.m_World, Scene.m_View, Scene.m_Projection);
     const CLitMaterial Material(Draw.m_Material, Scene.m_Lights);
     const bool bTurns = !TurnsNothing(Draw.m_World);
-    const CMatrix3 ToEye = NormalsToEye(Linear(Draw.m_World) * Linear(Scene.m_View));
+    // Only a turning world matrix needs the normals turned afresh; the others share the frame's facing.
+    const CMatrix3 ToEye = bTurns ? NormalsToEye(Linear(Draw.m_World) * Linear(Scene.m_View)) : CMatrix3();
     const std::vector<CMeshVertex>& vVertices = m_pGeometry->m_vVertices;
     const std::vector<uint16_t>& vSphere = m_pGeometry->m_vIndices;
     m_vSlot.assign(vVertices.size(), UINT32_MAX);

@@ -1,8 +1,7 @@
 #include "platform/MeshFaces.h"
 
-#include "math/Matrix.h"
+#include "platform/GameMatrix.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace
@@ -15,27 +14,11 @@ CVector3 PositionOf(const CMeshVertex& Vertex)
     return CVector3(Vertex.x, Vertex.y, Vertex.z);
 }
 
-bool IsAffine(const CMatrixData& m)
-{
-    return m[3] == 0.0f && m[7] == 0.0f && m[11] == 0.0f && m[15] == 1.0f;
-}
-
 // w is the view's z, and x and y keep their turn, so the picture is the scene seen from the view's origin.
 bool ProjectsFromOrigin(const CMatrixData& p)
 {
     return p[3] == 0.0f && p[7] == 0.0f && p[15] == 0.0f && p[12] == 0.0f && p[13] == 0.0f && p[11] > 0.0f &&
            p[0] * p[5] - p[1] * p[4] > 0.0f;
-}
-
-// The game's matrices act on row vectors: a point p lands at p * M.
-CMatrix3 Linear(const CMatrixData& m)
-{
-    return CMatrix3(m[0], m[1], m[2], m[4], m[5], m[6], m[8], m[9], m[10]);
-}
-
-CVector3 Translation(const CMatrixData& m)
-{
-    return CVector3(m[12], m[13], m[14]);
 }
 } // namespace
 

@@ -1,4 +1,5 @@
 #include "gfx/GraphicsEngine.h"
+#include "platform/GameMatrix.h"
 #include "platform/MeshFaces.h"
 
 #include <gtest/gtest.h>
@@ -20,10 +21,8 @@ CMatrixData Times(const CMatrixData& a, const CMatrixData& b)
 // Where a mesh point lands on screen, x right and y up, as the projection and the perspective divide put it.
 CPoint2 OnScreen(const CMeshVertex& v, const CMatrixData& m)
 {
-    const float x = v.x * m[0] + v.y * m[4] + v.z * m[8] + m[12];
-    const float y = v.x * m[1] + v.y * m[5] + v.z * m[9] + m[13];
-    const float w = v.x * m[3] + v.y * m[7] + v.z * m[11] + m[15];
-    return CPoint2(x / w, y / w);
+    const std::array<float, 4> Clip = Transformed(m, {v.x, v.y, v.z, 1.0f});
+    return CPoint2(Clip[0] / Clip[3], Clip[1] / Clip[3]);
 }
 
 // Twice the triangle's area on screen, positive when its corners turn anticlockwise there: a back face.

@@ -3,6 +3,7 @@
 #include "app/Game.h"
 #include "gfx/Fonts.h"
 #include "platform/Clock.h"
+#include "platform/GameMatrix.h"
 #include "platform/GlRenderDevice.h"
 #include "platform/PngFile.h"
 #include "platform/SdlWindow.h"
@@ -44,14 +45,8 @@ void PlayLevel(CGame& Game, const CShotOptions& Options)
 // behind the eye.
 bool Project(const CGraphicsEngine& Camera, const CPoint3& Point, float& fX, float& fY)
 {
-    auto Transform = [](const float* pIn, const CMatrixData& m, float* pOut) {
-        for(int c = 0; c < 4; c++)
-            pOut[c] = pIn[0] * m[c] + pIn[1] * m[4 + c] + pIn[2] * m[8 + c] + pIn[3] * m[12 + c];
-    };
-    const float afWorld[4] = {Point.x(), Point.y(), Point.z(), 1.0f};
-    float afView[4], afClip[4];
-    Transform(afWorld, Camera.m_matView, afView);
-    Transform(afView, Camera.m_matProjection, afClip);
+    const std::array<float, 4> afClip =
+        Transformed(Camera.m_matProjection, Transformed(Camera.m_matView, {Point.x(), Point.y(), Point.z(), 1.0f}));
     if(afClip[3] <= 0.0f)
         return false;
     fX = (afClip[0] / afClip[3] + 1.0f) * 400.0f;
