@@ -54,23 +54,6 @@ bool ModeOf(EPrimitive Type, GLenum& eMode)
     }
 }
 
-uint64_t VerticesOf(EPrimitive Type, uint32_t uiPrimitives)
-{
-    if(uiPrimitives == 0)
-        return 0;
-    switch(Type)
-    {
-    case PT_LINELIST:
-        return 2ull * uiPrimitives;
-    case PT_TRIANGLELIST:
-        return 3ull * uiPrimitives;
-    case PT_TRIANGLESTRIP:
-        return uiPrimitives + 2ull;
-    default:
-        return uiPrimitives;
-    }
-}
-
 void BindVertexArrays(const CVertexLayout& Layout, const uint8_t* pFirst, uint32_t uiStride)
 {
     const GLsizei iStride = static_cast<GLsizei>(uiStride);

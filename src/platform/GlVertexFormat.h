@@ -20,8 +20,6 @@ CVertexLayout LayoutOf(uint32_t uiFVF);
 
 // GL's primitive for a Direct3D one; false for one the device does not draw.
 bool ModeOf(EPrimitive Type, GLenum& eMode);
-// The vertices that so many primitives of the type take.
-uint64_t VerticesOf(EPrimitive Type, uint32_t uiPrimitives);
 
 // Points the client arrays at vertices of the layout. A missing colour is opaque white and missing texture
 // coordinates are (0, 0), as Direct3D reads them.

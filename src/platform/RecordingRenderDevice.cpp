@@ -11,17 +11,6 @@ std::string Hex(uint32_t uiValue)
     std::snprintf(szText, sizeof(szText), "%x", uiValue);
     return szText;
 }
-
-uint32_t VerticesOf(EPrimitive Type, uint32_t uiPrimitives)
-{
-    switch(Type)
-    {
-    case PT_LINELIST: return 2 * uiPrimitives;
-    case PT_TRIANGLELIST: return 3 * uiPrimitives;
-    case PT_TRIANGLESTRIP: return uiPrimitives + 2;
-    default: return uiPrimitives;
-    }
-}
 } // namespace
 
 class CRecordingBuffer : public IVertexBuffer

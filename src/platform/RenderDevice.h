@@ -81,6 +81,9 @@ enum EPrimitive
     PT_TRIANGLESTRIP = 5,
 };
 
+// The vertices that so many primitives of the type take.
+uint64_t VerticesOf(EPrimitive Type, uint32_t uiPrimitives);
+
 // Flexible vertex format bits. The game uses two formats: screen vertices (x, y, z, rhw, u, v: pixels of the
 // 800x600 back buffer, already transformed) and line vertices (x, y, z and an ARGB colour).
 enum : uint32_t
