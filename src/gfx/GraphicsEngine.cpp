@@ -181,15 +181,16 @@ std::unique_ptr<IVertexBuffer> CGraphicsEngine::CreateVertexBuffer(uint32_t uiLe
     return m_pDevice ? m_pDevice->CreateVertexBuffer(uiLength, uiFVF) : nullptr;
 }
 
-bool CGraphicsEngine::FillVertexBuffer(IVertexBuffer& Buffer, const void* pData, uint32_t uiLength)
+bool CGraphicsEngine::FillVertexBuffer(IVertexBuffer* pBuffer, const void* pData, uint32_t uiLength,
+                                       const char* pLockError)
 {
-    void* pTarget = Buffer.Lock();
+    void* pTarget = pBuffer ? pBuffer->Lock() : nullptr;
     if(!pTarget)
     {
-        ShowError("ERROR: Failed to Lock Vertex Buffer, couldn't copy Vertex Data");
+        ShowError(pLockError);
         return false;
     }
-    std::memcpy(pTarget, pData, std::min(uiLength, Buffer.GetLength()));
-    Buffer.Unlock();
+    std::memcpy(pTarget, pData, std::min(uiLength, pBuffer->GetLength()));
+    pBuffer->Unlock();
     return true;
 }

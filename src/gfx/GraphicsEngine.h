@@ -85,7 +85,10 @@ public:
     // Null for a colour of 6 or more. A powerup ball gets a copy of its colour with the pulsing alpha.
     const CMaterial* GetBallMaterial(uint8_t ucColour, bool bPowerup);
     std::unique_ptr<IVertexBuffer> CreateVertexBuffer(uint32_t uiLength, uint32_t uiFVF);
-    bool FillVertexBuffer(IVertexBuffer& Buffer, const void* pData, uint32_t uiLength);
+    // Copies the data into the buffer, cut at the buffer's end. A buffer that is missing or won't lock gets the
+    // caller's error text and false.
+    bool FillVertexBuffer(IVertexBuffer* pBuffer, const void* pData, uint32_t uiLength,
+                          const char* pLockError = "ERROR: Failed to Lock Vertex Buffer, couldn't copy Vertex Data");
 
     // The 2D layer.
     void LoadImage(const char* pFileName, CImage& Image);

@@ -1,10 +1,8 @@
 #include "gfx/GraphicsEngine.h"
 
 #include "input/Input.h"
-#include "platform/ErrorBox.h"
 
 #include <cstdio>
-#include <cstring>
 
 namespace
 {
@@ -31,15 +29,11 @@ void CGraphicsEngine::DrawSprite(CSprite& Sprite)
         {X + W, Y, NEAREST, 1.0f, 1.0f, 0.0f}, {X + W, Y + H, NEAREST, 1.0f, 1.0f, 1.0f},
     };
     Sprite.m_pVB = CreateVertexBuffer(sizeof(aVertices), SCREEN_FVF);
-    void* pTarget = Sprite.m_pVB ? Sprite.m_pVB->Lock() : nullptr;
-    if(!pTarget)
+    if(!FillVertexBuffer(Sprite.m_pVB.get(), aVertices, sizeof(aVertices), "ERROR: Failed to Lock Vertex Buffer"))
     {
-        ShowError("ERROR: Failed to Lock Vertex Buffer");
         Sprite.m_pVB.reset();
         return;
     }
-    std::memcpy(pTarget, aVertices, sizeof(aVertices));
-    Sprite.m_pVB->Unlock();
     m_pDevice->SetFVF(SCREEN_FVF);
     m_pDevice->SetTexture(0, Sprite.m_pImage->m_pTexture.get());
     m_pDevice->SetStreamSource(Sprite.m_pVB.get(), sizeof(CScreenVertex));
@@ -74,7 +68,7 @@ void CGraphicsEngine::LoadBackground(const char* pName)
         {SCREEN_WIDTH, SCREEN_HEIGHT, FARTHEST, 1.0f, 1.0f, 1.0f},
     };
     m_pBackgroundVB = CreateVertexBuffer(sizeof(aVertices), SCREEN_FVF);
-    if(m_pBackgroundVB && !FillVertexBuffer(*m_pBackgroundVB, aVertices, sizeof(aVertices)))
+    if(m_pBackgroundVB && !FillVertexBuffer(m_pBackgroundVB.get(), aVertices, sizeof(aVertices)))
         m_pBackgroundVB.reset();
     m_pBackgroundTexture = m_pDevice->CreateTextureFromFile(szPath);
 }

@@ -4,7 +4,6 @@
 #include "play/Ball.h"
 #include "tracks/Level.h"
 
-#include <cstring>
 
 namespace
 {
@@ -89,17 +88,9 @@ void CGraphicsEngine::CreateLineSet(const std::vector<CLineVertex>& vVertices)
     auto pSet = std::make_unique<CLineSegmentSet>();
     const uint32_t uiLength = static_cast<uint32_t>(vVertices.size() * sizeof(CLineVertex));
     pSet->m_pVertexBuffer = CreateVertexBuffer(uiLength, LINE_FVF);
-    void* pTarget = pSet->m_pVertexBuffer ? pSet->m_pVertexBuffer->Lock() : nullptr;
-    if(pSet->m_pVertexBuffer && !pTarget)
-    {
-        ShowError("Failed to lock Vertex Buffer");
+    if(pSet->m_pVertexBuffer &&
+       !FillVertexBuffer(pSet->m_pVertexBuffer.get(), vVertices.data(), uiLength, "Failed to lock Vertex Buffer"))
         pSet->m_pVertexBuffer.reset();
-    }
-    if(pTarget)
-    {
-        std::memcpy(pTarget, vVertices.data(), uiLength);
-        pSet->m_pVertexBuffer->Unlock();
-    }
     pSet->m_uiNumLines = static_cast<uint32_t>(vVertices.size() / 2);
     if(!pSet->m_pVertexBuffer)
     {
@@ -135,6 +126,6 @@ void CGraphicsEngine::CreateCurveBuffer(CCurveLines& Lines)
         return;
     const uint32_t uiLength = static_cast<uint32_t>(Lines.m_vVertices.size() * sizeof(CLineVertex));
     Lines.m_pVertexBuffer = CreateVertexBuffer(uiLength, LINE_FVF);
-    if(Lines.m_pVertexBuffer && !FillVertexBuffer(*Lines.m_pVertexBuffer, Lines.m_vVertices.data(), uiLength))
+    if(Lines.m_pVertexBuffer && !FillVertexBuffer(Lines.m_pVertexBuffer.get(), Lines.m_vVertices.data(), uiLength))
         Lines.m_pVertexBuffer.reset();
 }
