@@ -48,6 +48,7 @@ void CGame::Tick()
         m_Graphics.RenderPlayFrame();
     else
         m_Graphics.RenderMenuFrame();
+    m_Network.Tick(); // what arrived acts on play from the next frame on
     m_Powerups.Update();
     m_Sound.Update(m_bHasMusic, m_nMusicIndex);
 }

@@ -25,8 +25,8 @@ public:
     // Brings up graphics, sound and the track list; false, after telling the player, when there is no
     // graphics device.
     bool Init();
-    // One frame, in a fixed order on one frame delta: clock, fire delay, play rules, drawing, powerup
-    // timers, the music playlist.
+    // One frame, in a fixed order on one frame delta: clock, fire delay, play rules, drawing, network,
+    // powerup timers, the music playlist.
     void Tick();
     void UpdateFireDelay();
     // The common tail of a level's start from the menus, the lobby or the host's start message: the file

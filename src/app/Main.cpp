@@ -8,6 +8,7 @@
 #include "platform/SdlAudio.h"
 #include "platform/SdlInput.h"
 #include "platform/SdlWindow.h"
+#include "platform/SocketEvents.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -19,17 +20,19 @@ int RunGame(CSdlWindow& Window)
 {
     CSdlAudio Audio;
     CGlRenderDevice Device;
+    CSocketEvents Sockets;
     CGame Game;
     g_pGame = &Game;
     g_pWindow = &Window;
     Game.m_Sound.m_pAudio = &Audio;
+    Game.m_Network.m_pEvents = &Sockets;
     Game.m_Graphics.m_fnOpenDevice = [&Device, &Window]() -> IRenderDevice* {
         return Device.Init(Window) ? &Device : nullptr;
     };
     Window.SetCharHandler([&Game](char cCharacter) { Game.m_Flow.OnChar(cCharacter); });
     const bool bStarted = StartGame(Game);
     if(bStarted)
-        RunMainLoop(Game, Window);
+        RunMainLoop(Game, Window, Sockets);
     // What the window's end lets go of: the input devices and the fonts.
     ReleaseMouse();
     ReleaseKeyboard();

@@ -2,10 +2,13 @@
 
 #include "app/Game.h"
 #include "input/Input.h"
+#include "platform/SocketEvents.h"
 #include "platform/Window.h"
 
-uint64_t RunMainLoop(CGame& Game, IWindow& Window)
+uint64_t RunMainLoop(CGame& Game, IWindow& Window, CSocketEvents& Sockets)
 {
+    const CSocketEvents::CHandler fnToNetwork = [&Game](int Socket, uint32_t uiEvent)
+    { Game.m_Network.OnSocketEvent(Socket, uiEvent); };
     uint64_t ulFrames = 0;
     while(Window.IsOpen())
     {
@@ -14,7 +17,7 @@ uint64_t RunMainLoop(CGame& Game, IWindow& Window)
         // The flow steps on every pass, also on those that run no frame, so no click is lost to waiting events.
         if(!Game.m_Flow.Step())
             Window.Destroy();
-        if(!Window.HandleOneEvent())
+        if(!Window.HandleOneEvent() && !Sockets.HandleOneEvent(fnToNetwork))
         {
             Game.Tick();
             ulFrames++;

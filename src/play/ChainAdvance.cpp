@@ -132,6 +132,8 @@ void CChainLogic::PushBall(CTrack& Track, const CPoint3& RearPosition, CBall& Ba
         if(Ball.m_uiPoint >= Track.m_Spline.m_uiNumPoints)
         {
             Ball.m_ucState = BALL_BURST;
+            if(g_pGame->m_Network.m_bNetGame)
+                g_pGame->m_Network.OnPlayerLost();
             EndLevel(false);
             return;
         }

@@ -1,6 +1,7 @@
 #include "play/ChainLogic.h"
 
 #include "app/Game.h"
+#include "net/Messages.h"
 
 bool CChainLogic::IsNear(const CBall& a, const CBall& b, float fLimit)
 {
@@ -19,8 +20,14 @@ void CChainLogic::Tick()
     if(!m_pLevel || !m_bActive)
         return;
     m_pLevel->m_Countdown.Update(g_pGame->m_Clock.GetDelta());
+    // In a network game the clock's end is the host's to judge: the highest score wins.
     if(m_pLevel->m_Countdown.IsExpired())
-        EndLevel(false);
+    {
+        if(g_pGame->m_Network.m_bNetGame)
+            g_pGame->m_Network.OnTimeUp();
+        else
+            EndLevel(false);
+    }
     if(!g_pGame->m_Powerups.m_bHaltOn)
         AdvanceChains();
     UpdateRetreats(); // before the push pass, so a stretch that touches is pushed back out this frame
@@ -45,8 +52,11 @@ void CChainLogic::EndLevel(bool bWon)
 // Shots in flight and pushers don't count: a level is cleared when no ball rolls and none waits.
 void CChainLogic::CheckCleared()
 {
-    if(m_pLevel->BallsToClear() == 0)
-        EndLevel(true);
+    if(m_pLevel->BallsToClear() != 0)
+        return;
+    if(g_pGame->m_Network.m_bNetGame)
+        g_pGame->m_Network.SendEvent(0, NET_YOU_LOSE); // everybody else has lost
+    EndLevel(true);
 }
 
 void CChainLogic::CountLiveBalls()

@@ -38,7 +38,14 @@ void CPowerupManager::UsePowerup()
     g_pGame->m_Sound.PlaySound(SOUND_POWER);
     m_nStackCount--;
     const CPowerupInfo* pInfo = FindPowerup(m_acStack[0]);
-    if(pInfo && pInfo->m_pfnEffect)
+    CNetwork& Network = g_pGame->m_Network;
+    // Aimed at a player, the letter acts on that player's machine; aimed at oneself it is simply used up.
+    if(Network.m_bNetGame && Network.m_nTarget != -1)
+    {
+        if(pInfo)
+            Network.SendToPlayer(static_cast<uint32_t>(Network.m_nTarget), pInfo->m_uiMessageType);
+    }
+    else if(pInfo && pInfo->m_pfnEffect)
         (this->*pInfo->m_pfnEffect)();
     PopLetter();
 }

@@ -4,6 +4,7 @@
 #include "input/Input.h"
 #include "platform/Clock.h"
 #include "platform/ScriptedInput.h"
+#include "platform/SocketEvents.h"
 #include "platform/Window.h"
 
 #include <gtest/gtest.h>
@@ -71,9 +72,10 @@ TEST(GameLoop, PassesThatHandleAnEventRunNoFrameAndTheNextFrameSeesTheLongDelta)
     CGame Game;
     g_pGame = &Game; // the screen flow steps in every pass
     CScriptedWindow Window;
+    CSocketEvents Sockets;
     Window.m_iClosePass = 11;
     Window.m_fnEventWaits = [](int iPass) { return iPass >= 5 && iPass < 10; }; // a burst of five events
-    EXPECT_EQ(RunMainLoop(Game, Window), 6u);                                     // passes 0 to 4, and 10
+    EXPECT_EQ(RunMainLoop(Game, Window, Sockets), 6u);                                     // passes 0 to 4, and 10
     EXPECT_EQ(Game.m_Clock.GetDelta(), 60u);
     EXPECT_EQ(Game.m_Clock.m_nTotal, 110u) << "every pass's time reaches the frame clock, none is lost";
     g_pGame = nullptr;
@@ -92,12 +94,13 @@ TEST(GameLoop, QuitOnTheMainMenuClosesTheWindowInThePassThatSeesTheClick)
     CreateMouse(&Mouse);
     Mouse.SetButton(0, true);
     CScriptedWindow Window;
+    CSocketEvents Sockets;
     Window.m_iClosePass = 100;
     Window.m_fnEventWaits = [&Mouse](int iPass) {
         Mouse.SetButton(0, iPass != 2); // let go during the third pass, seen by the fourth
         return false;
     };
-    EXPECT_EQ(RunMainLoop(Game, Window), 4u) << "the closing pass still runs its frame";
+    EXPECT_EQ(RunMainLoop(Game, Window, Sockets), 4u) << "the closing pass still runs its frame";
     EXPECT_FALSE(Window.m_bOpen);
     ReleaseMouse();
     ReleaseInput();

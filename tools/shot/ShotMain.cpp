@@ -1,6 +1,7 @@
 // Draws one frame of the game with the real device and saves it as an 800x600 PNG: a level after some
 // frames of play, or a menu screen.
 #include "app/Game.h"
+#include "net/Log.h"
 #include "gfx/Fonts.h"
 #include "platform/Clock.h"
 #include "platform/GameMatrix.h"
@@ -103,6 +104,7 @@ int main(int iArgCount, char** ppArgs)
     if(!ParseShotOptions(iArgCount - 1, ppArgs + 1, Options, Error))
         return Fail(Error + " (usage: " + SHOT_USAGE + ")");
     SetManualClock(0);
+    SetLogSink([](const char*) {}); // a frame grab has no network to tell of
     std::srand(Options.m_uiSeed);
     CSdlWindow Window;
     const char* pReason = "";

@@ -1,4 +1,5 @@
 #include "app/Game.h"
+#include "net/Log.h"
 #include "platform/Clock.h"
 #include "platform/ErrorBox.h"
 #include "platform/RecordingRenderDevice.h"
@@ -87,6 +88,7 @@ CRunCount RunLevel(CGame& Game, const CRun& Run)
 int Simulate(const CSimOptions& Options, CSimScript& Script, std::ofstream* pTrace)
 {
     SetErrorHandler(RecordError);
+    SetLogSink([](const char*) {}); // a level on its own has no network to tell of
     SetManualClock(0);
     std::string Reason;
     if(!CanOpenLevel(Options.m_LevelFile, Reason))

@@ -1,0 +1,386 @@
+#include "net/Socket.h"
+
+#include "net/Log.h"
+#include "platform/SocketEvents.h"
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <new>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace
+{
+constexpr int LISTEN_BACKLOG = 32;
+
+// The names under which the game reports a socket error, by the system's code.
+struct CErrorName
+{
+    int m_iCode;
+    const char* m_pName;
+};
+
+const CErrorName ERROR_NAMES[] = {
+    {ENETDOWN, "WSAENETDOWN"},
+    {EADDRINUSE, "WSAEADDRINUSE"},
+    {EINTR, "WSAEINTR"},
+    {EINPROGRESS, "WSAEINPROGRESS"},
+    {EALREADY, "WSAEALREADY"},
+    {EADDRNOTAVAIL, "WSAEADDRNOTAVAIL"},
+    {EAFNOSUPPORT, "WSAEAFNOSUPPORT"},
+    {ECONNREFUSED, "WSAECONNREFUSED"},
+    {EFAULT, "WSAEFAULT"},
+    {EINVAL, "WSAEINVAL"},
+    {EISCONN, "WSAEISCONN"},
+    {ENETUNREACH, "WSAENETUNREACH"},
+    {ENOBUFS, "WSAENOBUFS"},
+    {ENOTSOCK, "WSAENOTSOCK"},
+    {EBADF, "WSAENOTSOCK"},
+    {ENOTCONN, "WSAENOTCONN"},
+    {ETIMEDOUT, "WSAETIMEDOUT"},
+    {EWOULDBLOCK, "WSAEWOULDBLOCK"},
+    {EAGAIN, "WSAEWOULDBLOCK"},
+    {EACCES, "WSAEACCES"},
+    {EMFILE, "WSAEMFILE"},
+    {EOPNOTSUPP, "WSAEOPNOTSUPP"},
+};
+
+const char* ErrorName(int iCode)
+{
+    for(const CErrorName& Entry : ERROR_NAMES)
+    {
+        if(Entry.m_iCode == iCode)
+            return Entry.m_pName;
+    }
+    return "unknown error code";
+}
+
+bool IsNothingToRead(int iCode)
+{
+    return iCode == EWOULDBLOCK || iCode == EAGAIN || iCode == EMSGSIZE;
+}
+
+// The first IPv4 address of a host name, or false when the name is not known.
+bool LookUp(const char* pName, in_addr& Address)
+{
+    addrinfo Hints{};
+    Hints.ai_family = AF_INET;
+    Hints.ai_socktype = SOCK_STREAM;
+    addrinfo* pList = nullptr;
+    if(getaddrinfo(pName, nullptr, &Hints, &pList) != 0 || !pList)
+        return false;
+    Address = reinterpret_cast<const sockaddr_in*>(pList->ai_addr)->sin_addr;
+    freeaddrinfo(pList);
+    return true;
+}
+
+// Waits for a connect under way; errno tells why it failed, ETIMEDOUT when it took too long.
+int FinishConnect(int Socket)
+{
+    pollfd Entry{Socket, POLLOUT, 0};
+    int iReady;
+    do
+        iReady = poll(&Entry, 1, CONNECT_TIMEOUT_MS);
+    while(iReady == -1 && errno == EINTR);
+    if(iReady == 0)
+        errno = ETIMEDOUT;
+    if(iReady <= 0)
+        return -1;
+    int iError = 0;
+    socklen_t Length = sizeof(iError);
+    if(getsockopt(Socket, SOL_SOCKET, SO_ERROR, &iError, &Length) == -1)
+        return -1;
+    errno = iError;
+    return iError == 0 ? 0 : -1;
+}
+
+// A blocking connect that gives up after the time-out, so that a wrong address never freezes the game for
+// minutes. The socket is blocking again afterwards, as it was before.
+int ConnectWithin(int Socket, const sockaddr_in& Address)
+{
+    const int iFlags = fcntl(Socket, F_GETFL, 0);
+    if(iFlags == -1 || fcntl(Socket, F_SETFL, iFlags | O_NONBLOCK) == -1)
+        return -1;
+    int iResult = connect(Socket, reinterpret_cast<const sockaddr*>(&Address), sizeof(Address));
+    if(iResult == -1 && errno == EINPROGRESS)
+        iResult = FinishConnect(Socket);
+    const int iError = errno;
+    fcntl(Socket, F_SETFL, iFlags);
+    errno = iError;
+    return iResult;
+}
+} // namespace
+
+CSocket::CSocket(CSocketEvents* pEvents) : m_pEvents(pEvents) {}
+
+// A socket that never got connected (a host name that was not found) is closed too: no handle outlives its
+// object.
+CSocket::~CSocket()
+{
+    if(m_Socket != -1)
+        Close();
+    m_bConnected = false;
+    delete m_pQueue;
+    delete[] m_pBuffer;
+    m_Socket = -1;
+}
+
+bool CSocket::Create()
+{
+    if(m_Socket != -1)
+        Close();
+    m_Socket = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if(m_Socket == -1)
+    {
+        Log("error: socket() failed");
+        return false;
+    }
+    if(!m_pQueue)
+        m_pQueue = new(std::nothrow) CMessageQueue;
+    if(!m_pBuffer)
+        m_pBuffer = new(std::nothrow) uint8_t[SOCKET_BUFFER_SIZE];
+    if(!m_pQueue || !m_pBuffer)
+        return false;
+    std::memset(m_pBuffer, 0, SOCKET_BUFFER_SIZE);
+    return true;
+}
+
+// The one socket option the game sets: without it Linux refuses the port for a minute after a host with
+// players has closed, where the system the game was made for lets a new host bind it at once.
+bool CSocket::Bind(uint16_t usPort)
+{
+    const int iReuse = 1;
+    setsockopt(m_Socket, SOL_SOCKET, SO_REUSEADDR, &iReuse, sizeof(iReuse));
+    sockaddr_in Address{};
+    Address.sin_family = AF_INET;
+    Address.sin_addr.s_addr = htonl(INADDR_ANY);
+    Address.sin_port = htons(usPort);
+    if(bind(m_Socket, reinterpret_cast<const sockaddr*>(&Address), sizeof(Address)) == -1)
+    {
+        ReportError("bind() failed");
+        Close();
+        return false;
+    }
+    return true;
+}
+
+bool CSocket::Listen()
+{
+    if(listen(m_Socket, LISTEN_BACKLOG) != 0)
+    {
+        Log("error: listen() failed");
+        return false;
+    }
+    m_bConnected = true;
+    return true;
+}
+
+bool CSocket::Accept(int& Socket)
+{
+    sockaddr_in Address{};
+    socklen_t Length = sizeof(Address);
+    Socket = accept4(m_Socket, reinterpret_cast<sockaddr*>(&Address), &Length, SOCK_CLOEXEC);
+    if(Socket == -1)
+    {
+        Log("error: accept() failed");
+        return false;
+    }
+    const uint8_t* pBytes = reinterpret_cast<const uint8_t*>(&Address.sin_addr.s_addr);
+    Log("client from %d.%d.%d.%d now succesfully connected to us", pBytes[0], pBytes[1], pBytes[2], pBytes[3]);
+    if(m_pEvents)
+        m_pEvents->Inherit(m_Socket, Socket);
+    return true;
+}
+
+// A text of digits and dots is taken as an address as it stands and never looked up by name.
+bool CSocket::Connect(const char* pAddress, uint16_t usPort)
+{
+    sockaddr_in Address{};
+    Address.sin_family = AF_INET;
+    Address.sin_port = htons(usPort);
+    Address.sin_addr.s_addr = inet_addr(pAddress);
+    if(Address.sin_addr.s_addr == INADDR_NONE && !LookUp(pAddress, Address.sin_addr))
+    {
+        Log("error: server \"%s\" not found", pAddress);
+        return false;
+    }
+    if(ConnectWithin(m_Socket, Address) == -1)
+    {
+        ReportError("connect() in CSocket::Connect failed");
+        Close();
+        return false;
+    }
+    m_bConnected = true;
+    return true;
+}
+
+void CSocket::Close()
+{
+    if(m_Socket == -1)
+        return;
+    ShutdownConnection(m_Socket);
+    CloseConnection(m_Socket);
+    Log("socket closed");
+}
+
+int CSocket::ShutdownConnection(int Socket) const
+{
+    return shutdown(Socket, SHUT_RDWR);
+}
+
+int CSocket::CloseConnection(int Socket)
+{
+    if(m_pEvents)
+        m_pEvents->Forget(Socket);
+    m_Partial.erase(Socket);
+    if(Socket == m_Socket)
+        m_Socket = -1;
+    return close(Socket);
+}
+
+int CSocket::Send(const uint8_t* pBuffer, uint32_t uiCount)
+{
+    return SendTo(pBuffer, uiCount, m_Socket);
+}
+
+// A peer that has gone must not take the game with it, so no send may raise SIGPIPE.
+int CSocket::SendTo(const uint8_t* pBuffer, uint32_t uiCount, int Socket)
+{
+    uint32_t uiSent = 0;
+    while(uiSent < uiCount)
+    {
+        const ssize_t iResult = send(Socket, pBuffer + uiSent, uiCount - uiSent, MSG_NOSIGNAL);
+        if(iResult == -1)
+        {
+            ReportError("send() in CSocket");
+            return -1;
+        }
+        uiSent += static_cast<uint32_t>(iResult);
+    }
+    return static_cast<int>(uiSent);
+}
+
+// A read that fills the buffer to its last byte may have left more behind, so it reads again.
+bool CSocket::Receive(int Socket)
+{
+    if(!m_pBuffer || !m_pQueue)
+        return false;
+    for(;;)
+    {
+        const uint32_t uiFill = RestorePartial(Socket);
+        const ssize_t iRead = recv(Socket, m_pBuffer + uiFill, SOCKET_BUFFER_SIZE - uiFill, 0);
+        if(iRead == -1 && IsNothingToRead(errno))
+            return ParseBuffer(Socket, uiFill);
+        if(iRead == -1)
+        {
+            ReportError("recv() in CSocket::Receive");
+            return false;
+        }
+        if(!ParseBuffer(Socket, uiFill + static_cast<uint32_t>(iRead)))
+            return false;
+        if(iRead == 0 || uiFill + static_cast<uint32_t>(iRead) < SOCKET_BUFFER_SIZE)
+            return true;
+    }
+}
+
+bool CSocket::Absorb(int Socket, const uint8_t* pBytes, uint32_t uiCount)
+{
+    if(!m_pBuffer || !m_pQueue)
+        return false;
+    while(uiCount > 0)
+    {
+        const uint32_t uiFill = RestorePartial(Socket);
+        const uint32_t uiTaken = std::min(uiCount, SOCKET_BUFFER_SIZE - uiFill);
+        std::memcpy(m_pBuffer + uiFill, pBytes, uiTaken);
+        if(!ParseBuffer(Socket, uiFill + uiTaken))
+            return false;
+        pBytes += uiTaken;
+        uiCount -= uiTaken;
+    }
+    return true;
+}
+
+// What the connection left half-received goes back to the start of the buffer; returns its length.
+uint32_t CSocket::RestorePartial(int Socket)
+{
+    const auto it = m_Partial.find(Socket);
+    if(it == m_Partial.end())
+        return 0;
+    const uint32_t uiFill = static_cast<uint32_t>(it->second.size());
+    std::memcpy(m_pBuffer, it->second.data(), uiFill);
+    m_Partial.erase(it);
+    return uiFill;
+}
+
+// More than a header must be there before one is read: every frame carries at least one byte. The limit on
+// the announced size keeps what waits for a connection under one frame, far below the buffer's size.
+bool CSocket::ParseBuffer(int Socket, uint32_t uiFill)
+{
+    uint32_t uiPos = 0;
+    while(uiFill - uiPos > NET_HEADER_SIZE)
+    {
+        const uint32_t uiSize = ReadU32(m_pBuffer + uiPos);
+        if(uiSize > NET_MAX_PAYLOAD)
+        {
+            CutOff(Socket, uiSize);
+            return false;
+        }
+        const uint32_t uiFrame = NET_HEADER_SIZE + uiSize;
+        if(uiFrame > uiFill - uiPos)
+            break;
+        if(!m_pQueue->Push(m_pBuffer + uiPos, uiFrame))
+            Log("error: no memory to queue a frame of %u bytes", uiFrame);
+        uiPos += uiFrame;
+    }
+    if(uiPos < uiFill)
+        m_Partial[Socket].assign(m_pBuffer + uiPos, m_pBuffer + uiFill);
+    return true;
+}
+
+// The stream has lost all meaning, so nothing more is read from it: the shut-down connection comes back as a
+// close, and leaves like any other.
+void CSocket::CutOff(int Socket, uint32_t uiSize)
+{
+    Log("error: a frame of %u bytes is more than any message, connection %d cut off", uiSize, Socket);
+    m_Partial.erase(Socket);
+    shutdown(Socket, SHUT_RDWR);
+}
+
+bool CSocket::HasMessage() const
+{
+    return m_pQueue && m_pQueue->m_nCount > 0;
+}
+
+bool CSocket::GetMessage(CNetMessage& Message)
+{
+    CMessageNode* pNode = m_pQueue ? m_pQueue->Pop() : nullptr;
+    if(!pNode)
+        return false;
+    ReadHeader(pNode->m_pData, Message);
+    if(Message.m_nSize > 0)
+        std::memcpy(Message.m_pData, pNode->m_pData + NET_HEADER_SIZE, Message.m_nSize);
+    CMessageQueue::FreeNode(pNode);
+    return true;
+}
+
+bool CSocket::PutMessage(const CNetMessage& Message)
+{
+    if(!m_pQueue || Message.m_nSize > NET_MAX_PAYLOAD)
+        return false;
+    uint8_t aFrame[NET_MAX_FRAME];
+    WriteHeader(aFrame, Message);
+    if(Message.m_nSize > 0)
+        std::memcpy(aFrame + NET_HEADER_SIZE, Message.m_pData, Message.m_nSize);
+    return m_pQueue->Push(aFrame, NET_HEADER_SIZE + Message.m_nSize);
+}
+
+void CSocket::ReportError(const char* pContext) const
+{
+    Log("error: %s | %s", pContext, ErrorName(errno));
+}

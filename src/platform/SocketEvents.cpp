@@ -1,0 +1,154 @@
+#include "platform/SocketEvents.h"
+
+#include <algorithm>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+
+namespace
+{
+bool MakeNonBlocking(int Socket)
+{
+    const int iFlags = fcntl(Socket, F_GETFL, 0);
+    return iFlags != -1 && fcntl(Socket, F_SETFL, iFlags | O_NONBLOCK) != -1;
+}
+
+bool IsListening(int Socket)
+{
+    int iListening = 0;
+    socklen_t Length = sizeof(iListening);
+    return getsockopt(Socket, SOL_SOCKET, SO_ACCEPTCONN, &iListening, &Length) == 0 && iListening != 0;
+}
+
+bool HasUnreadData(int Socket)
+{
+    int iBytes = 0;
+    return ioctl(Socket, FIONREAD, &iBytes) == 0 && iBytes > 0;
+}
+
+std::vector<pollfd> PollSet(const std::vector<int>& vSockets)
+{
+    std::vector<pollfd> vSet;
+    vSet.reserve(vSockets.size());
+    for(int Socket : vSockets)
+        vSet.push_back({Socket, POLLIN | POLLRDHUP, 0});
+    return vSet;
+}
+} // namespace
+
+int CSocketEvents::Select(int Socket, uint32_t uiEvents)
+{
+    if(Socket < 0 || !MakeNonBlocking(Socket))
+        return -1;
+    Forget(Socket);
+    m_vWatches.push_back({Socket, uiEvents, IsListening(Socket), true});
+    return 0;
+}
+
+void CSocketEvents::Inherit(int Listener, int Accepted)
+{
+    for(CWatch& Watch : m_vWatches)
+    {
+        if(Watch.m_Socket == Listener)
+        {
+            Watch.m_bAcceptTaken = true;
+            const uint32_t uiEvents = Watch.m_uiEvents;
+            Select(Accepted, uiEvents);
+            return;
+        }
+    }
+}
+
+void CSocketEvents::Forget(int Socket)
+{
+    m_vWatches.erase(std::remove_if(m_vWatches.begin(), m_vWatches.end(),
+                                    [Socket](const CWatch& Watch) { return Watch.m_Socket == Socket; }),
+                     m_vWatches.end());
+    m_Pending.erase(std::remove_if(m_Pending.begin(), m_Pending.end(),
+                                   [Socket](const CPair& Pair) { return Pair.m_Socket == Socket; }),
+                    m_Pending.end());
+}
+
+bool CSocketEvents::IsWatched(int Socket) const
+{
+    return std::any_of(m_vWatches.begin(), m_vWatches.end(),
+                       [Socket](const CWatch& Watch) { return Watch.m_Socket == Socket; });
+}
+
+// A peer that closed after sending leaves its last bytes to be read first: the close waits until they are.
+uint32_t CSocketEvents::EventOf(const CWatch& Watch, short sReady) const
+{
+    if(Watch.m_bListening)
+        return (sReady & POLLIN) ? FD_ACCEPT : 0;
+    if(sReady & (POLLHUP | POLLERR))
+        return FD_CLOSE;
+    if(sReady & POLLRDHUP)
+        return HasUnreadData(Watch.m_Socket) ? FD_READ : FD_CLOSE;
+    return (sReady & POLLIN) ? FD_READ : 0;
+}
+
+// A listener whose waiting connection was refused stays ready until a place frees; a loop that waits on it
+// would spin, so Wait leaves it out until an accept is made again.
+std::vector<int> CSocketEvents::WatchedSockets(bool bForWait) const
+{
+    std::vector<int> vSockets;
+    for(const CWatch& Watch : m_vWatches)
+    {
+        if(!bForWait || !Watch.m_bListening || Watch.m_bAcceptTaken)
+            vSockets.push_back(Watch.m_Socket);
+    }
+    return vSockets;
+}
+
+void CSocketEvents::Poll()
+{
+    std::vector<pollfd> vSet = PollSet(WatchedSockets(false));
+    if(vSet.empty() || poll(vSet.data(), vSet.size(), 0) <= 0)
+        return;
+    std::vector<int> vClosed;
+    for(size_t i = 0; i < vSet.size(); i++)
+    {
+        CWatch& Watch = m_vWatches[i];
+        const uint32_t uiEvent = EventOf(Watch, vSet[i].revents);
+        if(uiEvent == FD_ACCEPT)
+            Watch.m_bAcceptTaken = false;
+        if(vSet[i].revents & POLLNVAL)
+            vClosed.push_back(Watch.m_Socket); // closed behind our back: nothing more will come of it
+        else if(uiEvent & Watch.m_uiEvents)
+            m_Pending.push_back({Watch.m_Socket, uiEvent});
+        if(uiEvent == FD_CLOSE)
+            vClosed.push_back(Watch.m_Socket);
+    }
+    // A close is reported once; what its handler does with the socket is its own affair.
+    for(int Socket : vClosed)
+        m_vWatches.erase(std::remove_if(m_vWatches.begin(), m_vWatches.end(),
+                                        [Socket](const CWatch& Watch) { return Watch.m_Socket == Socket; }),
+                         m_vWatches.end());
+}
+
+bool CSocketEvents::HandleOneEvent(const CHandler& fnHandler)
+{
+    if(m_Pending.empty())
+    {
+        if(m_bFrameOwed)
+        {
+            m_bFrameOwed = false;
+            return false;
+        }
+        Poll();
+        if(m_Pending.empty())
+            return false;
+    }
+    const CPair Pair = m_Pending.front();
+    m_Pending.pop_front();
+    m_bFrameOwed = true;
+    fnHandler(Pair.m_Socket, Pair.m_uiEvent);
+    return true;
+}
+
+void CSocketEvents::Wait(uint32_t uiMs) const
+{
+    std::vector<pollfd> vSet = PollSet(WatchedSockets(true));
+    poll(vSet.data(), vSet.size(), static_cast<int>(uiMs));
+}
