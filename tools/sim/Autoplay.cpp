@@ -3,7 +3,7 @@
 #include "app/Game.h"
 #include "sim/PlayerInput.h"
 #include "sim/ShotPath.h"
-#include "sim/SimReport.h"
+#include "sim/RunCount.h"
 
 #include <algorithm>
 #include <cmath>
@@ -144,17 +144,26 @@ float Danger(const CLevel& Level)
 
 // HALT, CLEAR and MAKE always help. A slowing ends with every track at 300 ms a ball, and an exchange of
 // colours is a gamble, so those go when the chains are close to their ends or to make room on a full stack.
+// In a network game a letter that harms is kept for a rival.
 bool WorthSpending(const CGame& Game)
 {
     const CPowerupManager& Powerups = Game.m_Powerups;
     if(Powerups.m_nStackCount == 0 || !AnyBallRolls(Game.m_Level))
         return false;
     const char cOldest = Powerups.m_acStack[0];
+    if(Game.m_Network.m_bNetGame && HarmsWhereItLands(cOldest))
+        return false;
     if(cOldest == 'H' || cOldest == 'C' || cOldest == 'M')
         return true;
     return Powerups.m_nStackCount == POWERUP_STACK_SIZE || Danger(Game.m_Level) > 0.8f;
 }
 } // namespace
+
+// Faster chains, a lost stack, a stolen letter and scrambled colours: no player wants these on its own level.
+bool HarmsWhereItLands(char cLetter)
+{
+    return cLetter == 'I' || cLetter == 'E' || cLetter == 'T' || cLetter == 'R';
+}
 
 void CAutoplay::Play(CGame& Game, CRunCount& Count) const
 {

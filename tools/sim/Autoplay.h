@@ -4,6 +4,9 @@
 class CGame;
 struct CRunCount;
 
+// The letters that do harm where they land, which a network player aims at a rival.
+bool HarmsWhereItLands(char cLetter);
+
 // A player who aims and fires by the game's own turn and fire operations: finish a run where the colour in
 // hand allows, else pair it with a ball of its colour, most urgent first; swap when the next colour does
 // better, and throw away a colour that can reach nothing. Powerups that help are spent at once; the others

@@ -1,9 +1,8 @@
 #include "sim/SimReport.h"
 
 #include "app/Game.h"
+#include "common/Json.h"
 
-#include <cmath>
-#include <cstdio>
 #include <string>
 
 namespace
@@ -13,19 +12,6 @@ const char* Outcome(const CGame& Game)
     if(Game.m_Logic.m_bActive)
         return "running";
     return Game.m_Level.m_bWon ? "won" : "lost";
-}
-
-// Three decimals are a hundredth of a ball and keep a trace small; JSON has no word for infinity or NaN.
-void WriteNumber(std::ostream& Stream, float fValue)
-{
-    if(!std::isfinite(fValue))
-    {
-        Stream << "null";
-        return;
-    }
-    char szText[32];
-    std::snprintf(szText, sizeof(szText), "%.3f", static_cast<double>(fValue));
-    Stream << szText;
 }
 
 void WriteBall(std::ostream& Stream, const CBall& Ball)
@@ -41,24 +27,11 @@ void WriteShot(std::ostream& Stream, const CBall& Shot)
     for(int i = 0; i < 3; i++)
     {
         Stream << apNames[i];
-        WriteNumber(Stream, Shot.m_Position[i]);
+        WriteJsonNumber(Stream, Shot.m_Position[i]); // three decimals are a hundredth of a ball
     }
     Stream << "}";
 }
 
-// Writes the elements of a range between square brackets, separated by commas.
-template <typename R, typename F> void WriteArray(std::ostream& Stream, const R& Range, F WriteElement)
-{
-    Stream << "[";
-    const char* pSeparator = "";
-    for(const auto& Element : Range)
-    {
-        Stream << pSeparator;
-        WriteElement(Element);
-        pSeparator = ",";
-    }
-    Stream << "]";
-}
 } // namespace
 
 void WriteSummary(std::ostream& Stream, const CGame& Game, const CRunCount& Count)
@@ -84,10 +57,10 @@ void WriteSummary(std::ostream& Stream, const CGame& Game, const CRunCount& Coun
 void WriteTraceFrame(std::ostream& Stream, uint64_t ulFrame, const CGame& Game)
 {
     Stream << "{\"frame\":" << ulFrame << ",\"tracks\":";
-    WriteArray(Stream, Game.m_Level.m_vTracks,
+    WriteJsonArray(Stream, Game.m_Level.m_vTracks,
                [&Stream](const CTrack& Track)
-               { WriteArray(Stream, Track.m_lstBalls, [&Stream](const CBall* pBall) { WriteBall(Stream, *pBall); }); });
+               { WriteJsonArray(Stream, Track.m_lstBalls, [&Stream](const CBall* pBall) { WriteBall(Stream, *pBall); }); });
     Stream << ",\"shots\":";
-    WriteArray(Stream, Game.m_Level.m_lstShots, [&Stream](const CBall* pShot) { WriteShot(Stream, *pShot); });
+    WriteJsonArray(Stream, Game.m_Level.m_lstShots, [&Stream](const CBall* pShot) { WriteShot(Stream, *pShot); });
     Stream << "}\n";
 }

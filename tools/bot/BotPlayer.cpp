@@ -1,0 +1,184 @@
+#include "bot/BotPlayer.h"
+
+#include "app/Game.h"
+#include "net/TextField.h"
+#include "platform/Clock.h"
+#include "platform/SocketEvents.h"
+#include "sim/PlayerInput.h"
+
+namespace
+{
+constexpr uint32_t FRAME_MS = 10;
+constexpr uint32_t JOIN_TRIES_MS = 5000; // how long a client keeps knocking at a host that is not up yet
+constexpr uint32_t JOIN_RETRY_MS = 200;
+constexpr uint32_t RESULTS_VIEW_MS = 1500; // how long the bot looks at the results before it goes back
+} // namespace
+
+CBotPlayer::CBotPlayer(const CBotOptions& Options, CGame& Game)
+    : m_Options(Options), m_Game(Game), m_Autoplay(FRAME_MS), m_uiStartMs(timeGetTime())
+{
+}
+
+uint32_t CBotPlayer::Elapsed() const
+{
+    return timeGetTime() - m_uiStartMs;
+}
+
+bool CBotPlayer::Join(CSocketEvents& Sockets)
+{
+    CNetwork& Network = m_Game.m_Network;
+    const uint32_t uiMode = m_Options.m_bHost ? NET_MODE_HOST : NET_MODE_CLIENT;
+    Network.m_nMode = uiMode;
+    Network.m_bNetGame = true;
+    m_Game.m_Graphics.m_nScreenState = SCREEN_LOBBY;
+    for(;;)
+    {
+        if(Network.Init(&Sockets, uiMode, m_Options.m_uiPort, m_Options.m_Address.c_str(), NET_MAX_FRAME,
+                        GAME_MAX_CLIENTS))
+            return true;
+        if(m_Options.m_bHost || Elapsed() + JOIN_RETRY_MS > JOIN_TRIES_MS)
+            return false;
+        Sockets.Wait(JOIN_RETRY_MS);
+    }
+}
+
+// A client knows its number once the host's table has come; the host knows it from the start.
+bool CBotPlayer::HasJoined() const
+{
+    return m_Options.m_bHost || m_bTableSeen;
+}
+
+void CBotPlayer::BeforeFrame()
+{
+    if(Elapsed() >= m_Options.m_uiQuitAfterMs)
+        m_bDone = true;
+    if(m_Options.m_uiLeaveAfterMs > 0 && Elapsed() >= m_Options.m_uiLeaveAfterMs)
+    {
+        m_Game.m_Network.Shutdown();
+        m_bDone = true;
+    }
+    if(m_bDone)
+        return;
+    if(m_Options.m_bChat && !m_bChatSent && HasJoined())
+        Chat();
+    StartWhenReady();
+    if(m_Game.m_Graphics.m_nScreenState == SCREEN_PLAY && !m_Options.m_bIdle)
+        Play();
+}
+
+// What a player types in the lobby, as far as the line editor lets it.
+void CBotPlayer::Chat()
+{
+    CNetwork& Network = m_Game.m_Network;
+    std::string Typed = m_Options.m_Chat.substr(0, LOBBY_INPUT_LIMIT);
+    CopyText(Network.m_szLobbyInput, Typed.c_str());
+    Network.SendLobbyChat();
+    m_bChatSent = true;
+}
+
+// The host's Start button: the click, the message, and the same level on this machine.
+void CBotPlayer::StartWhenReady()
+{
+    CNetwork& Network = m_Game.m_Network;
+    if(!m_Options.m_bHost || m_Options.m_uiStartWhen == 0 || m_uiMatchesStarted >= m_Options.m_uiMatches ||
+       m_Game.m_Graphics.m_nScreenState != SCREEN_LOBBY || Network.m_nPlayers < m_Options.m_uiStartWhen)
+        return;
+    const std::vector<std::string>& vFiles = m_Game.m_Tracks.m_vFiles;
+    if(m_Options.m_uiTrack >= vFiles.size())
+    {
+        m_bDone = true; // nothing to start: the track list has no such entry
+        return;
+    }
+    m_Game.m_Sound.PlaySound(SOUND_CLICK);
+    Network.SendStartGame(m_Options.m_uiTrack);
+    m_Game.StartLevel(vFiles[m_Options.m_uiTrack].c_str());
+    BeginMatch(m_Options.m_uiTrack);
+    m_uiMatchesStarted++;
+}
+
+void CBotPlayer::Play()
+{
+    AimPowerup();
+    m_Autoplay.Play(m_Game, m_Count);
+}
+
+// A letter that harms goes to the rival with the best score who is still racing. With nobody to aim at, a
+// full stack is cleared by aiming at the bot's own number, which spends the letter without effect.
+void CBotPlayer::AimPowerup()
+{
+    const CPowerupManager& Powerups = m_Game.m_Powerups;
+    if(Powerups.m_nStackCount == 0 || !HarmsWhereItLands(Powerups.m_acStack[0]))
+        return;
+    const int iLeader = LeaderSlot();
+    const int iMySlot = m_Game.m_Network.MySlot();
+    if(iLeader >= 0)
+        m_uiPowerupsSent += PressPowerupKey(m_Game, static_cast<char>('1' + iLeader)) ? 1 : 0;
+    else if(Powerups.m_nStackCount == POWERUP_STACK_SIZE && iMySlot >= 0)
+        PressPowerupKey(m_Game, static_cast<char>('1' + iMySlot));
+}
+
+int CBotPlayer::LeaderSlot() const
+{
+    const CNetwork& Network = m_Game.m_Network;
+    const int iMySlot = Network.MySlot();
+    int iLeader = -1;
+    for(int i = 0; i < static_cast<int>(Network.m_nPlayers) && i < MAX_PLAYERS; i++)
+    {
+        const CPlayerSlot& Slot = Network.m_Players[i];
+        if(i == iMySlot || !Slot.m_bPresent || Slot.m_bFinished)
+            continue;
+        if(iLeader < 0 || Network.m_Scores[i].m_nScore > Network.m_Scores[iLeader].m_nScore)
+            iLeader = i;
+    }
+    return iLeader;
+}
+
+// A start that comes while the bot still looks at the last results pulls it into the new match at once.
+void CBotPlayer::OnStartGame(uint32_t uiTrack)
+{
+    if(m_bOnResults)
+        LeaveResults();
+    BeginMatch(uiTrack);
+}
+
+void CBotPlayer::BeginMatch(uint32_t uiTrack)
+{
+    m_bInMatch = true;
+    m_bOnResults = false;
+    m_Current = CMatchRecord{};
+    m_Current.m_uiTrack = uiTrack;
+}
+
+void CBotPlayer::AfterFrame()
+{
+    const bool bResults = m_Game.m_Graphics.m_nScreenState == SCREEN_RESULTS;
+    if(bResults && !m_bOnResults)
+    {
+        m_bOnResults = true;
+        m_uiResultsMs = timeGetTime();
+        m_Current.m_bWon = m_Game.m_Level.m_bWon;
+        m_Current.m_uiScore = m_Game.m_nScore;
+    }
+    if(m_bOnResults && timeGetTime() - m_uiResultsMs >= RESULTS_VIEW_MS)
+        LeaveResults();
+}
+
+// The space bar on the results: the rows as they stand are the match's, and the bot is back in the lobby.
+// A results screen that no match of this bot led to (a late message) is left without a record.
+void CBotPlayer::LeaveResults()
+{
+    CNetwork& Network = m_Game.m_Network;
+    m_bOnResults = false;
+    if(m_bInMatch)
+    {
+        for(uint32_t i = 0; i < Network.m_nPlayers && i < MAX_PLAYERS; i++)
+            m_Current.m_vRows.push_back(Network.m_Scores[i]);
+        m_vMatches.push_back(m_Current);
+        m_bInMatch = false;
+    }
+    Network.ResetMatch();
+    m_Game.m_Level.m_bWon = false;
+    m_Game.m_Graphics.m_nScreenState = SCREEN_LOBBY;
+    if(m_vMatches.size() >= m_Options.m_uiMatches)
+        m_bDone = true;
+}
