@@ -1,0 +1,307 @@
+#include "app/Game.h"
+#include "net/Log.h"
+#include "net/Messages.h"
+#include "net/NetTestSupport.h"
+#include "platform/Clock.h"
+#include "platform/RecordingRenderDevice.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <unistd.h>
+
+namespace
+{
+std::vector<uint8_t> ScoreRow(uint32_t uiNumber, uint32_t uiId, uint32_t uiScore, float fDanger)
+{
+    std::vector<uint8_t> vRow;
+    uint32_t uiDanger;
+    std::memcpy(&uiDanger, &fDanger, sizeof(uiDanger));
+    for(uint32_t uiField : {uiNumber, uiId, uiScore, uiDanger})
+    {
+        const std::vector<uint8_t> vField = WireU32(uiField);
+        vRow.insert(vRow.end(), vField.begin(), vField.end());
+    }
+    vRow.insert(vRow.end(), {0, 0, 0, 0});
+    return vRow;
+}
+
+// A whole game whose link a test drives: as the host of wire clients, or as a client of a host peer.
+class CGameOnTheNetwork : public ::testing::Test
+{
+protected:
+    CGameOnTheNetwork() : m_GamePeer(m_Game.m_Network)
+    {
+        g_pGame = &m_Game;
+        m_Device.m_bRecording = false;
+        m_Game.m_Graphics.m_pDevice = &m_Device;
+        m_Game.m_Network.m_bNetGame = true;
+    }
+    ~CGameOnTheNetwork() override
+    {
+        m_Game.m_Network.Shutdown();
+        g_pGame = nullptr;
+    }
+    bool Pump(const std::function<bool()>& fnDone) { return PumpUntil({&m_Host, &m_GamePeer}, fnDone); }
+    void PumpAWhile() { PumpFor({&m_Host, &m_GamePeer}, 200); }
+    std::string Notice() const { return m_Game.m_Powerups.m_szNotice; }
+    std::string Stack() const { return std::string(m_Game.m_Powerups.m_acStack, m_Game.m_Powerups.m_nStackCount); }
+
+    CLogRecorder m_Log;
+    CRecordingRenderDevice m_Device;
+    CGame m_Game;
+    CPeer m_Host;
+    CPeer m_GamePeer;
+};
+
+// The game hosts; wire clients join it.
+class CHostingGame : public CGameOnTheNetwork
+{
+protected:
+    void SetUp() override { ASSERT_TRUE(StartHost(m_GamePeer)); }
+    bool Join(CWireClient& Client, uint32_t& uiId) { return JoinWire(m_GamePeer, Client, uiId); }
+};
+
+// The game is a client of a host peer, and wire clients join the same host.
+class CJoinedGame : public CGameOnTheNetwork
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(StartHost(m_Host));
+        ASSERT_TRUE(JoinClient(m_Host, m_GamePeer));
+        ASSERT_TRUE(JoinWire(m_Host, m_Other, m_uiOther));
+        ASSERT_TRUE(Pump([this] { return m_Game.m_Network.m_nPlayers == 3; }));
+    }
+    CWireClient m_Other;
+    uint32_t m_uiOther = 0;
+};
+} // namespace
+
+using ProtocolOnHost = CHostingGame;
+using ProtocolOnClient = CJoinedGame;
+
+// Each frame that no game could have sent is dropped with one line in the log, a type beyond the table
+// without one, and none of them changes the tables or the stack.
+TEST_F(ProtocolOnHost, FramesNoGameSendsAreDroppedAndChangeNothing)
+{
+    CWireClient Rogue;
+    uint32_t uiRogue = 0;
+    ASSERT_TRUE(Join(Rogue, uiRogue));
+    const size_t Before = m_Log.Lines().size();
+    std::vector<uint8_t> vTable(68, 0);
+    vTable[0] = 9;
+    for(const std::vector<uint8_t>& vFrame :
+        {WireFrame(32, uiRogue, 0, MARK_PAYLOAD), WireFrame(1000, uiRogue, 0, MARK_PAYLOAD),
+         WireFrame(NET_ASSIGN_ID, 0, 0, {7, 0, 0}), WireFrame(NET_LOBBY_CHAT, uiRogue, 1, {'h', 'i'}),
+         WireFrame(NET_PLAYER_TABLE, 0, 0, vTable), WireFrame(NET_SCORE_UPDATE, uiRogue, 0, ScoreRow(0, 1, 5, 0)),
+         WireFrame(NET_SCORE_UPDATE, uiRogue, 0, ScoreRow(9, 1, 5, 0)),
+         WireFrame(NET_PLAYER_OUT, uiRogue, 7, MARK_PAYLOAD), WireFrame(NET_PU_TAKEN, uiRogue, 0, {'q', 0}),
+         WireFrame(NET_PU_HALT, uiRogue, 0, {'0', '0'})})
+        ASSERT_TRUE(Rogue.Send(vFrame));
+    ASSERT_TRUE(Pump([&] { return m_Log.Lines().size() - Before >= 8; }));
+    PumpAWhile();
+    EXPECT_EQ(m_Log.Lines().size() - Before, 8u);
+    EXPECT_EQ(ListedIds(m_Game.m_Network), std::vector<uint32_t>({0, uiRogue}));
+    EXPECT_FALSE(m_Game.m_Network.m_Players[1].m_bFinished);
+    EXPECT_EQ(m_Game.m_Network.m_Scores[1].m_nScore, 0u);
+    EXPECT_EQ(Notice(), "");
+    EXPECT_FALSE(m_Game.m_Powerups.m_bHaltOn);
+    EXPECT_EQ(m_Game.m_Network.GetPlayerNumber(42), 0u);
+}
+
+// A powerup aimed at the host acts on the host, which shows who sent it and passes it on to nobody.
+TEST_F(ProtocolOnHost, AHaltAimedAtTheHostActsThereAndGoesNoFurther)
+{
+    CWireClient Sender, Bystander;
+    uint32_t uiSender = 0, uiBystander = 0;
+    ASSERT_TRUE(Join(Sender, uiSender));
+    ASSERT_TRUE(Join(Bystander, uiBystander));
+    SetManualClock(4242);
+    ASSERT_TRUE(Sender.Send(WireFrame(NET_PU_HALT, uiSender, 0, MARK_PAYLOAD)));
+    ASSERT_TRUE(Pump([this] { return m_Game.m_Powerups.m_bHaltOn; }));
+    EXPECT_EQ(Notice(), "Player 2 has used HALT on you");
+    EXPECT_EQ(m_Game.m_Network.m_nNoticeTime, 4242u);
+    PumpAWhile();
+    CWireFrame Frame;
+    EXPECT_FALSE(Bystander.ReadUntil(NET_PU_HALT, Frame, 100));
+    UseSystemClock();
+}
+
+// Every client's update comes back to every client as the whole table, the host's own row first.
+TEST_F(ProtocolOnHost, AScoreUpdateComesBackToEveryClientAsTheWholeTable)
+{
+    CWireClient a, b;
+    uint32_t uiA = 0, uiB = 0;
+    ASSERT_TRUE(Join(a, uiA));
+    ASSERT_TRUE(Join(b, uiB));
+    m_Game.m_nScore = 500;
+    m_Game.m_Network.m_fDanger = 0.25f;
+    m_Game.m_Clock.Update(m_Game.m_Clock.m_nLastTime + 1001);
+    m_Game.m_Network.Tick(); // past the first second: the host writes its own row
+    ASSERT_TRUE(a.Send(WireFrame(NET_SCORE_UPDATE, uiA, 0, ScoreRow(2, uiA, 1234, 0.5f))));
+    CWireFrame Table;
+    ASSERT_TRUE(Pump([&] { return b.ReadUntil(NET_SCORE_TABLE, Table, 0); }));
+    ASSERT_EQ(Table.m_vPayload.size(), 164u);
+    std::vector<uint8_t> vExpected = WireU32(3);
+    for(const std::vector<uint8_t>& vRow : {ScoreRow(0, 0, 500, 0.25f), ScoreRow(2, uiA, 1234, 0.5f),
+                                             ScoreRow(3, uiB, 0, 0.0f)})
+        vExpected.insert(vExpected.end(), vRow.begin(), vRow.end());
+    EXPECT_EQ(std::vector<uint8_t>(Table.m_vPayload.begin(), Table.m_vPayload.begin() + 64), vExpected);
+}
+
+// A powerup from one client to another goes through the host unchanged: the target sees the first
+// sender's number, and a TAKE sends the oldest letter back the same way.
+TEST_F(ProtocolOnClient, PowerupsBetweenClientsTravelThroughTheHostUnchanged)
+{
+    ASSERT_TRUE(m_Other.Send(WireFrame(NET_PU_HALT, m_uiOther, 1, MARK_PAYLOAD)));
+    ASSERT_TRUE(Pump([this] { return m_Game.m_Powerups.m_bHaltOn; }));
+    EXPECT_EQ(Notice(), "Player 3 has used HALT on you");
+
+    m_Game.m_Powerups.PushLetter('H');
+    m_Game.m_Powerups.PushLetter('Z');
+    ASSERT_TRUE(m_Other.Send(WireFrame(NET_PU_TAKE, m_uiOther, 1, MARK_PAYLOAD)));
+    CWireFrame Taken;
+    ASSERT_TRUE(Pump([&] { return m_Other.ReadUntil(NET_PU_TAKEN, Taken, 0); }));
+    EXPECT_EQ(Notice(), "Player 3 has used TAKE on you");
+    EXPECT_EQ(Stack(), "Z");
+    EXPECT_EQ(Taken.m_uiFrom, 1u);
+    EXPECT_EQ(Taken.m_uiTo, m_uiOther);
+    EXPECT_EQ(Taken.m_vPayload, std::vector<uint8_t>({'H', 0}));
+
+    m_Game.m_Powerups.ApplyEmpty();
+    ASSERT_TRUE(m_Other.Send(WireFrame(NET_PU_TAKE, m_uiOther, 1, MARK_PAYLOAD)));
+    PumpAWhile();
+    EXPECT_FALSE(m_Other.ReadUntil(NET_PU_TAKEN, Taken, 50)) << "an empty stack gives nothing back";
+
+    for(int i = 0; i < POWERUP_STACK_SIZE; i++)
+        m_Game.m_Powerups.PushLetter('D');
+    ASSERT_TRUE(m_Other.Send(WireFrame(NET_PU_TAKEN, m_uiOther, 1, {'H', 0})));
+    ASSERT_TRUE(Pump([this] { return Notice() == "You have taken powerup from Player 3"; }));
+    EXPECT_EQ(Stack(), "DDDDD") << "a full stack loses the letter";
+
+    // Aimed by this game: exactly the Mark frame, from its id to the target's.
+    EXPECT_TRUE(m_Game.m_Network.SendToPlayer(m_uiOther, NET_PU_HALT));
+    EXPECT_FALSE(m_Game.m_Network.SendToPlayer(1, NET_PU_HALT)) << "never at oneself";
+    CWireFrame Halt;
+    ASSERT_TRUE(Pump([&] { return m_Other.ReadUntil(NET_PU_HALT, Halt, 0); }));
+    EXPECT_EQ(Halt.m_uiSize, 1u);
+    EXPECT_EQ(Halt.m_uiFrom, 1u);
+    EXPECT_EQ(Halt.m_uiTo, m_uiOther);
+    EXPECT_EQ(Halt.m_vPayload, MARK_PAYLOAD);
+}
+
+// A client takes the count its lines come with; past the eighth line the first is pushed out, and a count
+// of 0 names no line.
+TEST_F(ProtocolOnClient, LobbyLinesTakeTheSendersCountAndTheNinthPushesOutTheFirst)
+{
+    for(uint32_t i = 1; i <= 9; i++)
+        ASSERT_TRUE(m_Other.Send(WireFrame(NET_LOBBY_CHAT, m_uiOther, i, WireText("3: line " + std::to_string(i)))));
+    CNetwork& Network = m_Game.m_Network;
+    ASSERT_TRUE(Pump([&] { return Network.m_nLobbyLines == 9; }));
+    EXPECT_STREQ(Network.m_szLobbyLines[0], "3: line 2");
+    EXPECT_STREQ(Network.m_szLobbyLines[7], "3: line 9");
+    EXPECT_EQ(m_Host.m_Net.m_nLobbyLines, 9u) << "the host counts for itself";
+
+    const size_t Before = m_Log.Lines().size();
+    ASSERT_TRUE(m_Other.Send(WireFrame(NET_LOBBY_CHAT, m_uiOther, 0, WireText("3: nowhere"))));
+    ASSERT_TRUE(Pump([&] { return m_Log.Count("lobby line 0 dropped") == 1; }));
+    EXPECT_EQ(m_Log.Lines().size() - Before, 1u);
+    EXPECT_STREQ(Network.m_szLobbyLines[7], "3: line 9");
+
+    // The game's own line comes back through the host before it shows.
+    std::strcpy(Network.m_szLobbyInput, "hello");
+    Network.SendLobbyChat();
+    EXPECT_STREQ(Network.m_szLobbyInput, "");
+    CWireFrame Line;
+    ASSERT_TRUE(Pump([&] { return m_Other.ReadUntil(NET_LOBBY_CHAT, Line, 0) && Line.m_uiFrom == 1; }));
+    EXPECT_EQ(Line.m_vPayload, WireText("2: hello"));
+    EXPECT_EQ(Line.m_uiTo, 1u) << "the game's count after the dropped line set it to 0";
+    ASSERT_TRUE(Pump([&] { return std::strcmp(Network.m_szLobbyLines[0], "2: hello") == 0; }));
+}
+
+// The host's start message starts the level of that index, or nothing when the list has no such entry;
+// the end messages end it, unless the game sent them itself or is already out.
+TEST_F(ProtocolOnClient, StartAndEndMessagesStartAndEndTheLevel)
+{
+    m_Game.m_Tracks.Load(TRACK_LIST_FILE);
+    CNetwork& Host = m_Host.m_Net;
+    ASSERT_TRUE(Host.SendStartGame(99));
+    ASSERT_TRUE(Pump([this] { return m_Log.Count("track 99 is not in the track list") == 1; }));
+    EXPECT_FALSE(m_Game.m_Logic.m_bActive);
+    ASSERT_TRUE(Host.SendStartGame(1));
+    ASSERT_TRUE(Pump([this] { return m_Game.m_Logic.m_bActive; }));
+    EXPECT_EQ(m_Game.m_Graphics.m_nScreenState, SCREEN_PLAY);
+    EXPECT_GT(m_Game.m_Level.m_vTracks.size(), 0u);
+
+    m_Game.m_Network.m_Players[1].m_bFinished = true;
+    ASSERT_TRUE(Host.SendEvent(0, NET_YOU_WIN));
+    PumpAWhile();
+    EXPECT_TRUE(m_Game.m_Logic.m_bActive) << "a player who is out does not win";
+    uint8_t ucMark = '0';
+    ASSERT_TRUE(Host.SendToClient(CNetMessage{1, NET_YOU_LOSE, 1, 0, &ucMark}, 1));
+    PumpAWhile();
+    EXPECT_TRUE(m_Game.m_Logic.m_bActive) << "the game's own message comes back to it and is skipped";
+    ASSERT_TRUE(Host.SendEvent(0, NET_YOU_LOSE));
+    ASSERT_TRUE(Pump([this] { return !m_Game.m_Logic.m_bActive; }));
+    EXPECT_EQ(m_Game.m_Graphics.m_nScreenState, SCREEN_RESULTS);
+    EXPECT_FALSE(m_Game.m_Level.m_bWon);
+}
+
+// A host bot serves peers that know nothing but the wire layout: the join sequence, relayed chat, score
+// tables and aimed powerups; a peer sending garbage, unknown types, impossible slots and a huge size harms
+// no one but itself.
+TEST(Protocol, AHostBotServesWirePeersAndShrugsOffGarbage)
+{
+    const uint16_t usPort = FreeLoopbackPort();
+    CChildProcess Bot;
+    ASSERT_TRUE(Bot.Start(BotCommand({"--host", "--port", std::to_string(usPort), "--quit-after", "4"})));
+    CWireClient a, b, Rogue;
+    for(int i = 0; i < 50 && !a.Connect(usPort); i++)
+    {
+        a.Close();
+        usleep(50000);
+    }
+    CWireFrame Frame;
+    for(uint32_t uiType : {0u, 1u, 6u})
+    {
+        ASSERT_TRUE(a.Read(Frame, 2000));
+        EXPECT_EQ(Frame.m_uiType, uiType);
+    }
+    ASSERT_TRUE(b.Connect(usPort));
+    ASSERT_TRUE(b.ReadUntil(NET_PLAYER_TABLE, Frame, 2000));
+    ASSERT_TRUE(Rogue.Connect(usPort));
+    ASSERT_TRUE(Rogue.ReadUntil(NET_PLAYER_TABLE, Frame, 2000));
+    for(int i = 0; i < 3 && (i == 0 || Frame.m_vPayload[0] != 4); i++)
+        ASSERT_TRUE(a.ReadUntil(NET_PLAYER_TABLE, Frame, 2000));
+    ASSERT_EQ(Frame.m_vPayload[0], 4) << "host, a, b and the rogue";
+
+    std::vector<uint8_t> vGarbage(300);
+    for(size_t i = 0; i < vGarbage.size(); i++)
+        vGarbage[i] = static_cast<uint8_t>(i * 37 + 11);
+    vGarbage[0] = 40; // a small size first, so the garbage is read as frames for a while
+    for(const std::vector<uint8_t>& vBytes :
+        {WireFrame(40, 3, 0, MARK_PAYLOAD), WireFrame(NET_PLAYER_OUT, 3, 99, MARK_PAYLOAD),
+         WireFrame(NET_SCORE_UPDATE, 3, 0, ScoreRow(200, 3, 9, 0)), vGarbage,
+         WireFrame(NET_GAME_CHAT, 3, 0, std::vector<uint8_t>(1000000, 'x'))})
+        Rogue.Send(vBytes);
+    EXPECT_TRUE(Rogue.SeesClose(2000));
+
+    ASSERT_TRUE(a.Send(WireFrame(NET_LOBBY_CHAT, 1, 1, WireText("2: hi"))));
+    ASSERT_TRUE(b.ReadUntil(NET_LOBBY_CHAT, Frame, 2000));
+    EXPECT_EQ(Frame.m_vPayload, WireText("2: hi"));
+    ASSERT_TRUE(a.Send(WireFrame(NET_SCORE_UPDATE, 1, 0, ScoreRow(2, 1, 777, 0))));
+    ASSERT_TRUE(b.ReadUntil(NET_SCORE_TABLE, Frame, 2000));
+    EXPECT_EQ(std::vector<uint8_t>(Frame.m_vPayload.begin() + 24, Frame.m_vPayload.begin() + 44), ScoreRow(2, 1, 777, 0));
+    ASSERT_TRUE(a.Send(WireFrame(NET_PU_HALT, 1, 2, MARK_PAYLOAD)));
+    ASSERT_TRUE(b.ReadUntil(NET_PU_HALT, Frame, 2000));
+    EXPECT_EQ(Frame.m_uiFrom, 1u);
+    EXPECT_EQ(Frame.m_uiTo, 2u);
+
+    ASSERT_EQ(Bot.Wait(10000), 0) << Bot.Errors();
+    const std::string Report = Bot.Output();
+    EXPECT_NE(Report.find(R"("players":[{"id":0,"present":true,"finished":false},{"id":1,"present":true,)"),
+              std::string::npos)
+        << Report;
+    EXPECT_NE(Report.find(R"("lobby_lines":["2: hi"])"), std::string::npos) << Report;
+}
