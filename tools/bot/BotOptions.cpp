@@ -26,21 +26,12 @@ const char* const BOT_HELP =
 
 namespace
 {
-constexpr uint64_t MAX_SECONDS = 86400 * 7;
-
-bool ReadU32(const std::string& Text, uint64_t uiMin, uint64_t uiMax, uint32_t& uiValue)
-{
-    uint64_t ulValue = 0;
-    if(!ParseUnsigned(Text, uiMax, ulValue) || ulValue < uiMin)
-        return false;
-    uiValue = static_cast<uint32_t>(ulValue);
-    return true;
-}
+constexpr uint32_t MAX_SECONDS = 86400 * 7;
 
 bool ReadSeconds(const std::string& Text, uint32_t& uiMs)
 {
     uint32_t uiSeconds = 0;
-    if(!ReadU32(Text, 1, MAX_SECONDS, uiSeconds))
+    if(!ParseU32(Text, 1, MAX_SECONDS, uiSeconds))
         return false;
     uiMs = uiSeconds * 1000;
     return true;
@@ -60,15 +51,15 @@ bool StoreValue(const std::string& Name, const std::string& Value, CBotOptions& 
         return true;
     }
     if(Name == "--port")
-        return ReadU32(Value, 1, 65535, Options.m_uiPort);
+        return ParseU32(Value, 1, 65535, Options.m_uiPort);
     if(Name == "--seed")
-        return Options.m_bSeedGiven = ReadU32(Value, 0, UINT32_MAX, Options.m_uiSeed);
+        return Options.m_bSeedGiven = ParseU32(Value, 0, UINT32_MAX, Options.m_uiSeed);
     if(Name == "--track")
-        return ReadU32(Value, 0, UINT32_MAX, Options.m_uiTrack);
+        return ParseU32(Value, 0, UINT32_MAX, Options.m_uiTrack);
     if(Name == "--start-when")
-        return ReadU32(Value, 1, 7, Options.m_uiStartWhen);
+        return ParseU32(Value, 1, 7, Options.m_uiStartWhen);
     if(Name == "--matches")
-        return ReadU32(Value, 1, UINT32_MAX, Options.m_uiMatches);
+        return ParseU32(Value, 1, UINT32_MAX, Options.m_uiMatches);
     if(Name == "--leave-after")
         return ReadSeconds(Value, Options.m_uiLeaveAfterMs);
     return ReadSeconds(Value, Options.m_uiQuitAfterMs);

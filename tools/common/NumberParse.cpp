@@ -21,6 +21,15 @@ template <typename T> bool ParseWhole(const std::string& Text, T& Value)
 }
 } // namespace
 
+bool ParseU32(const std::string& Text, uint32_t uiMin, uint32_t uiMax, uint32_t& uiValue)
+{
+    uint64_t ulValue = 0;
+    if(!ParseUnsigned(Text, uiMax, ulValue) || ulValue < uiMin)
+        return false;
+    uiValue = static_cast<uint32_t>(ulValue);
+    return true;
+}
+
 bool ParseUnsigned(const std::string& Text, uint64_t uiMax, uint64_t& uiValue)
 {
     uint64_t uiRead = 0;

@@ -21,26 +21,17 @@ const char* const SIM_HELP =
 
 namespace
 {
-constexpr uint64_t MAX_DELTA_MS = 60000; // a minute a frame is already far beyond any real frame
-
-bool ReadU32(const std::string& Text, uint64_t uiMin, uint64_t uiMax, uint32_t& uiValue)
-{
-    uint64_t ulValue = 0;
-    if(!ParseUnsigned(Text, uiMax, ulValue) || ulValue < uiMin)
-        return false;
-    uiValue = static_cast<uint32_t>(ulValue);
-    return true;
-}
+constexpr uint32_t MAX_DELTA_MS = 60000; // a minute a frame is already far beyond any real frame
 
 // Stores the value of one option that takes one; false when the text is not a value the option accepts.
 bool StoreValue(const std::string& Name, const std::string& Value, CSimOptions& Options)
 {
     if(Name == "--seed")
-        return ReadU32(Value, 0, UINT32_MAX, Options.m_uiSeed);
+        return ParseU32(Value, 0, UINT32_MAX, Options.m_uiSeed);
     if(Name == "--dt")
-        return ReadU32(Value, 1, MAX_DELTA_MS, Options.m_uiDeltaMs);
+        return ParseU32(Value, 1, MAX_DELTA_MS, Options.m_uiDeltaMs);
     if(Name == "--round")
-        return ReadU32(Value, 1, UINT32_MAX, Options.m_uiRound);
+        return ParseU32(Value, 1, UINT32_MAX, Options.m_uiRound);
     if(Name == "--frames")
         return ParseUnsigned(Value, UINT64_MAX, Options.m_ulFrames);
     std::string& Text = Name == "--script" ? Options.m_ScriptFile : Options.m_TraceFile;
