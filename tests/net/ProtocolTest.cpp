@@ -297,6 +297,7 @@ TEST(Protocol, AHostBotServesWirePeersAndShrugsOffGarbage)
     ASSERT_TRUE(b.ReadUntil(NET_PU_HALT, Frame, 2000));
     EXPECT_EQ(Frame.m_uiFrom, 1u);
     EXPECT_EQ(Frame.m_uiTo, 2u);
+    EXPECT_FALSE(a.ReadUntil(NET_PU_HALT, Frame, 200)) << "only the target gets it";
 
     ASSERT_EQ(Bot.Wait(10000), 0) << Bot.Errors();
     const std::string Report = Bot.Output();
