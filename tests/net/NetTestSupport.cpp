@@ -339,6 +339,13 @@ int CChildProcess::Wait(int iTimeoutMs)
     return m_iExit;
 }
 
+int CChildProcess::Stop(int iTimeoutMs)
+{
+    if(m_Pid > 0 && m_iExit == -1)
+        kill(m_Pid, SIGTERM);
+    return Wait(iTimeoutMs);
+}
+
 std::string CChildProcess::Output() const
 {
     return ReadFile(m_OutFile);

@@ -96,6 +96,8 @@ public:
     bool Start(const std::vector<std::string>& vArgs);
     // The exit code, or -1 when it has not ended within the time.
     int Wait(int iTimeoutMs);
+    // Asks it to end, by its id, and waits for it as Wait does.
+    int Stop(int iTimeoutMs);
     std::string Output() const; // what it printed on standard output
     std::string Errors() const; // and on standard error
 

@@ -197,22 +197,23 @@ TEST(NetworkLink, SplitFramesArriveWholeAndAnOversizedFrameCutsOffOnlyItsSender)
 }
 
 // Real bots: a host and three clients join in turn, the last says hello, the second leaves; every bot that
-// stays ends with the same table (the host ends first, which leaves the clients' tables as they were), and
-// the lobby line reached those who were there when it was sent.
+// stays ends with the same table (the host is stopped first, which leaves the clients' tables as they were),
+// and the lobby line reached those who were there when it was sent.
 TEST(NetworkLink, BotsJoiningChattingAndLeavingAgreeOnTheTable)
 {
     const std::string Port = std::to_string(FreeLoopbackPort());
     CChildProcess Host, First, Second, Third;
-    ASSERT_TRUE(Host.Start(BotCommand({"--host", "--port", Port, "--quit-after", "5"})));
+    ASSERT_TRUE(Host.Start(BotCommand({"--host", "--port", Port})));
     usleep(300000);
-    ASSERT_TRUE(First.Start(BotCommand({"--join", "127.0.0.1", "--port", Port, "--quit-after", "6"})));
+    ASSERT_TRUE(First.Start(BotCommand({"--join", "127.0.0.1", "--port", Port})));
     usleep(300000);
-    ASSERT_TRUE(Second.Start(BotCommand({"--join", "127.0.0.1", "--port", Port, "--leave-after", "2"})));
+    ASSERT_TRUE(Second.Start(BotCommand({"--join", "127.0.0.1", "--port", Port, "--leave-after", "1"})));
     usleep(300000);
-    ASSERT_TRUE(Third.Start(BotCommand({"--join", "127.0.0.1", "--port", Port, "--chat", "hello all", "--quit-after",
-                                        "6"})));
-    for(CChildProcess* pBot : {&Host, &First, &Second, &Third})
-        ASSERT_EQ(pBot->Wait(15000), 0) << pBot->Errors();
+    ASSERT_TRUE(Third.Start(BotCommand({"--join", "127.0.0.1", "--port", Port, "--chat", "hello all"})));
+    ASSERT_EQ(Second.Wait(10000), 0) << Second.Errors();
+    usleep(1500000);
+    for(CChildProcess* pBot : {&Host, &First, &Third})
+        ASSERT_EQ(pBot->Stop(10000), 0) << pBot->Errors();
     const std::string Table =
         R"("players":[{"id":0,"present":true,"finished":false},{"id":1,"present":true,"finished":false},)"
         R"({"id":3,"present":true,"finished":false}])";

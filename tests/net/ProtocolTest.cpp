@@ -255,7 +255,7 @@ TEST(Protocol, AHostBotServesWirePeersAndShrugsOffGarbage)
 {
     const uint16_t usPort = FreeLoopbackPort();
     CChildProcess Bot;
-    ASSERT_TRUE(Bot.Start(BotCommand({"--host", "--port", std::to_string(usPort), "--quit-after", "4"})));
+    ASSERT_TRUE(Bot.Start(BotCommand({"--host", "--port", std::to_string(usPort), "--quit-after", "60"})));
     CWireClient a, b, Rogue;
     for(int i = 0; i < 50 && !a.Connect(usPort); i++)
     {
@@ -299,7 +299,7 @@ TEST(Protocol, AHostBotServesWirePeersAndShrugsOffGarbage)
     EXPECT_EQ(Frame.m_uiTo, 2u);
     EXPECT_FALSE(a.ReadUntil(NET_PU_HALT, Frame, 200)) << "only the target gets it";
 
-    ASSERT_EQ(Bot.Wait(10000), 0) << Bot.Errors();
+    ASSERT_EQ(Bot.Stop(10000), 0) << Bot.Errors();
     const std::string Report = Bot.Output();
     EXPECT_NE(Report.find(R"("players":[{"id":0,"present":true,"finished":false},{"id":1,"present":true,)"),
               std::string::npos)

@@ -6,6 +6,7 @@
 #include "platform/RecordingRenderDevice.h"
 #include "platform/SocketEvents.h"
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
@@ -18,6 +19,13 @@ constexpr int EXIT_NOT_JOINED = 1;
 constexpr uint32_t FRAME_MS = 10;
 
 uint64_t g_ulLogLines = 0;
+volatile std::sig_atomic_t g_bStopAsked = 0;
+
+// Asked to stop (Ctrl-C, or a test ending it by its id), the bot still leaves cleanly and reports.
+void AskToStop(int)
+{
+    g_bStopAsked = 1;
+}
 
 void CountAndPrint(const char* pLine)
 {
@@ -32,7 +40,7 @@ void RunFrames(CGame& Game, CBotPlayer& Bot, CSocketEvents& Sockets)
     const CSocketEvents::CHandler fnToNetwork = [&Game](int Socket, uint32_t uiEvent)
     { Game.m_Network.OnSocketEvent(Socket, uiEvent); };
     uint32_t uiNextFrame = timeGetTime();
-    while(!Bot.IsDone())
+    while(!Bot.IsDone() && !g_bStopAsked)
     {
         while(Sockets.HandleOneEvent(fnToNetwork))
         {
@@ -57,6 +65,8 @@ void RunFrames(CGame& Game, CBotPlayer& Bot, CSocketEvents& Sockets)
 int RunBot(const CBotOptions& Options)
 {
     SetLogSink(CountAndPrint);
+    std::signal(SIGINT, AskToStop);
+    std::signal(SIGTERM, AskToStop);
     UseSystemClock();
     std::srand(Options.m_bSeedGiven ? Options.m_uiSeed : timeGetTime());
     CRecordingRenderDevice Device; // the play frame aims the camera and works out the danger value

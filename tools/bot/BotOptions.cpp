@@ -21,7 +21,7 @@ const char* const BOT_HELP =
     "  --chat TEXT       send TEXT as a lobby line once joined\n"
     "  --idle            never shoot or spend a powerup\n"
     "  --leave-after S   leave the game after S seconds, and end\n"
-    "  --quit-after S    end after S seconds whatever happens (default 600)\n"
+    "  --quit-after S    end after S seconds whatever happens (default 600); so does an interrupt\n"
     "  --help            show this text\n";
 
 namespace
