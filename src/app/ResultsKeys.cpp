@@ -39,9 +39,10 @@ void GoOnToLevel(CGame& Game)
     LoadCurrentLevel(Game);
 }
 
-// Back to the lobby with the connection open.
+// Back to the lobby with the connection open, the match's traces gone.
 void GoBackToLobby(CGame& Game)
 {
+    Game.m_Network.ResetMatch();
     Game.m_Level.m_bWon = false;
     Game.m_Graphics.m_nScreenState = SCREEN_LOBBY;
 }

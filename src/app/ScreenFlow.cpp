@@ -58,13 +58,15 @@ bool ReturnOnHotSpot(CGame& Game)
 }
 
 // The Start buttons. With no level in the list there is nothing to play, so the button does nothing at all
-// rather than send the player into an empty level.
+// rather than send the player into an empty level. The host's start tells the others which level first.
 void StartFromList(CGame& Game, uint32_t uiIndex)
 {
     const std::vector<std::string>& vFiles = Game.m_Tracks.m_vFiles;
     if(uiIndex >= vFiles.size())
         return;
     Click(Game);
+    if(Game.m_Network.m_bNetGame)
+        Game.m_Network.SendStartGame(uiIndex);
     Game.StartLevel(vFiles[uiIndex].c_str());
 }
 
@@ -99,8 +101,10 @@ void OnSinglePlayerClick(CGame& Game)
 void OpenNetGame(CGame& Game, uint32_t uiMode)
 {
     Click(Game);
-    Game.m_Network.m_nMode = uiMode;
-    Game.m_Network.m_bNetGame = true;
+    CNetwork& Network = Game.m_Network;
+    Network.m_nMode = uiMode;
+    Network.m_bNetGame = true;
+    Network.Init(Network.m_pEvents, uiMode, GAME_PORT, Network.m_szAddressInput, NET_MAX_FRAME, GAME_MAX_CLIENTS);
     Game.m_Graphics.m_nScreenState = SCREEN_LOBBY;
 }
 
@@ -121,7 +125,7 @@ void OnLobbyClick(CGame& Game)
     CGraphicsEngine& Screen = Game.m_Graphics;
     if(Screen.m_nHotSpot == HOT_RETURN)
     {
-        Game.m_Network.m_bNetGame = false;
+        Game.m_Network.Leave();
         ClickTo(Game, SCREEN_MAIN_MENU);
     }
     else if(Screen.m_nHotSpot == HOT_START && Game.m_Network.m_nMode == NET_MODE_HOST)

@@ -227,6 +227,7 @@ void CGraphicsEngine::DrawLobby()
     DrawScrollBar(*this, Mouse);
     if(IsHost())
         DrawSprite(m_aSprites[SPR_LOBBY_START]);
+    g_pGame->m_Network.UpdateLobbyEntry();
     DrawPlayerNames();
     DrawLobbyChat();
 }
@@ -237,6 +238,7 @@ void CGraphicsEngine::DrawConnectScreen()
     ButtonStep(*this, SPR_CONNECT_RETURN, HOT_RETURN, Mouse);
     ButtonStep(*this, SPR_CONNECT_CLIENT, HOT_JOIN, Mouse);
     ButtonStep(*this, SPR_CONNECT_SERVER, HOT_HOST, Mouse);
+    g_pGame->m_Network.UpdateAddressEntry();
     DrawField(g_pGame->m_Network.m_szAddressInput, ADDRESS_X, ADDRESS_Y);
 }
 

@@ -90,6 +90,7 @@ constexpr uint8_t DIK_OEM_102 = 0x56; // the extra key beside the left Shift on 
 constexpr uint8_t DIK_F11 = 0x57;
 constexpr uint8_t DIK_F12 = 0x58;
 constexpr uint8_t DIK_NUMPADEQUALS = 0x8D;
+constexpr uint8_t DIK_COLON = 0x92; // a key of its own on Japanese keyboards
 constexpr uint8_t DIK_NUMPADENTER = 0x9C;
 constexpr uint8_t DIK_RCONTROL = 0x9D;
 constexpr uint8_t DIK_DIVIDE = 0xB5; // keypad /

@@ -1,4 +1,7 @@
 #include "app/Game.h"
+#include "app/ScreenFlow.h"
+#include "input/Input.h"
+#include "input/KeyCodes.h"
 #include "net/Messages.h"
 #include "net/Network.h"
 
@@ -17,8 +20,35 @@ void CNetwork::Tick()
         ScoreStep();
         m_fUpdateTimer = 0.0f;
     }
+    OnReturnKey(KeyPressed(DIK_RETURN));
     ProcessMessages();
     m_fUpdateTimer -= fDelta;
+}
+
+// Return sends the lobby's line; in play it opens the chat box, and closes it again to send the line typed.
+// A level that ends while the box is open closes it unsent, so that the keys of the results screen and the
+// lobby (Escape among them) work as ever; the typed line waits until the match is reset.
+void CNetwork::OnReturnKey(bool bReturn)
+{
+    const int iScreen = g_pGame->m_Graphics.m_nScreenState;
+    if(iScreen == SCREEN_LOBBY && bReturn)
+        SendLobbyChat();
+    if(iScreen != SCREEN_PLAY)
+    {
+        g_bChatOpen = false;
+        return;
+    }
+    if(!g_bChatOpen)
+    {
+        g_bChatOpen = bReturn;
+        return;
+    }
+    UpdateChatEntry();
+    if(bReturn)
+    {
+        g_bChatOpen = false;
+        SendGameChat();
+    }
 }
 
 // A client reports its own row to the host; the host writes its own row, which reaches the others in the

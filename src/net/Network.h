@@ -118,9 +118,12 @@ public:
     // Out of the network game by the lobby's Return button: the link goes down and the tables are as new.
     void Leave();
 
-    // Chat.
+    // Chat and the three line editors, which read the keyboard once a frame each.
     void SendGameChat();
     void SendLobbyChat();
+    void UpdateChatEntry();
+    void UpdateLobbyEntry();
+    void UpdateAddressEntry();
 
     // The slot of the table that holds this player: the first whose id is ours; -1 when none does.
     int MySlot() const;
@@ -181,5 +184,6 @@ private:
     void ShowNotice(const char* pNotice, uint32_t uiFrom);
     void GiveUpLetter(const CNetMessage& Take);
     void ScoreStep();
+    void OnReturnKey(bool bReturn);
     void FormatChatLine(char* pLine, const char* pText) const;
 };

@@ -143,13 +143,20 @@ void CNetwork::OnPlayerOut(uint32_t uiSlot)
     SendPlayerTable(0, true);
 }
 
-// Every machine finds the level by its index in its own list; an index beyond it starts nothing.
+// Every machine finds the level by its index in its own list; an index beyond it starts nothing. A client
+// the full table left without a slot is not in the race: were it to clear the level first, it would end the
+// match for players it cannot even see.
 void CNetwork::StartMatch(uint32_t uiTrack)
 {
     const std::vector<std::string>& vFiles = g_pGame->m_Tracks.m_vFiles;
     if(uiTrack >= vFiles.size())
     {
         Log("error: track %u is not in the track list", uiTrack);
+        return;
+    }
+    if(GetPlayerNumber(m_nMyId) == 0)
+    {
+        Log("no slot in the player table: this match goes on without us");
         return;
     }
     if(m_pListener)

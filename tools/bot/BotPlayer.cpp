@@ -6,12 +6,32 @@
 #include "platform/SocketEvents.h"
 #include "sim/PlayerInput.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr uint32_t FRAME_MS = 10;
 constexpr uint32_t JOIN_TRIES_MS = 5000; // how long a client keeps knocking at a host that is not up yet
 constexpr uint32_t JOIN_RETRY_MS = 200;
-constexpr uint32_t RESULTS_VIEW_MS = 1500; // how long the bot looks at the results before it goes back
+constexpr uint32_t RESULTS_VIEW_MS = 1500; // how long the bot looks at the results at the least
+// The others may still be racing: the bot goes back once the score rows have stood still this long, so that
+// every bot of a match takes the same final rows away with it.
+constexpr uint32_t ROWS_SETTLED_MS = 1000;
+
+// Rows as every machine holds them: a client's own row carries number 0 between two tables, so the number is
+// left out of the comparison.
+bool SameRows(const std::vector<CScoreRow>& vA, const std::vector<CScoreRow>& vB)
+{
+    if(vA.size() != vB.size())
+        return false;
+    for(size_t i = 0; i < vA.size(); i++)
+    {
+        if(vA[i].m_nId != vB[i].m_nId || vA[i].m_nScore != vB[i].m_nScore || vA[i].m_bFinished != vB[i].m_bFinished ||
+           !(vA[i].m_fDanger == vB[i].m_fDanger))
+            return false;
+    }
+    return true;
+}
 } // namespace
 
 CBotPlayer::CBotPlayer(const CBotOptions& Options, CGame& Game)
@@ -149,21 +169,36 @@ void CBotPlayer::BeginMatch(uint32_t uiTrack)
     m_Current.m_uiTrack = uiTrack;
 }
 
+std::vector<CScoreRow> CBotPlayer::ListedRows() const
+{
+    const CNetwork& Network = m_Game.m_Network;
+    return std::vector<CScoreRow>(Network.m_Scores, Network.m_Scores + std::min<uint32_t>(Network.m_nPlayers, MAX_PLAYERS));
+}
+
 void CBotPlayer::AfterFrame()
 {
-    const bool bResults = m_Game.m_Graphics.m_nScreenState == SCREEN_RESULTS;
-    if(bResults && !m_bOnResults)
+    const uint32_t uiNow = timeGetTime();
+    if(m_Game.m_Graphics.m_nScreenState == SCREEN_RESULTS && !m_bOnResults)
     {
         m_bOnResults = true;
-        m_uiResultsMs = timeGetTime();
-        m_Current.m_bWon = m_Game.m_Level.m_bWon;
+        m_uiResultsMs = uiNow;
+        m_vLastRows.clear();
         m_Current.m_uiScore = m_Game.m_nScore;
     }
-    if(m_bOnResults && timeGetTime() - m_uiResultsMs >= RESULTS_VIEW_MS)
+    if(!m_bOnResults)
+        return;
+    const std::vector<CScoreRow> vRows = ListedRows();
+    if(!SameRows(vRows, m_vLastRows))
+    {
+        m_vLastRows = vRows;
+        m_uiRowsMs = uiNow;
+    }
+    if(uiNow - m_uiResultsMs >= RESULTS_VIEW_MS && uiNow - m_uiRowsMs >= ROWS_SETTLED_MS)
         LeaveResults();
 }
 
-// The space bar on the results: the rows as they stand are the match's, and the bot is back in the lobby.
+// The space bar on the results: the rows and the outcome as they stand are the match's, and the bot is back
+// in the lobby.
 // A results screen that no match of this bot led to (a late message) is left without a record.
 void CBotPlayer::LeaveResults()
 {
@@ -171,8 +206,8 @@ void CBotPlayer::LeaveResults()
     m_bOnResults = false;
     if(m_bInMatch)
     {
-        for(uint32_t i = 0; i < Network.m_nPlayers && i < MAX_PLAYERS; i++)
-            m_Current.m_vRows.push_back(Network.m_Scores[i]);
+        m_Current.m_bWon = m_Game.m_Level.m_bWon; // as the results screen shows it when the bot leaves
+        m_Current.m_vRows = ListedRows();
         m_vMatches.push_back(m_Current);
         m_bInMatch = false;
     }

@@ -51,6 +51,7 @@ private:
     int LeaderSlot() const;
     void BeginMatch(uint32_t uiTrack);
     void LeaveResults();
+    std::vector<CScoreRow> ListedRows() const;
 
     const CBotOptions& m_Options;
     CGame& m_Game;
@@ -63,6 +64,8 @@ private:
     bool m_bInMatch = false;    // a match was started and has not been left yet
     bool m_bOnResults = false;  // the results screen is up
     uint32_t m_uiResultsMs = 0; // when it came up
+    std::vector<CScoreRow> m_vLastRows;
+    uint32_t m_uiRowsMs = 0; // when the score rows last changed
     uint32_t m_uiMatchesStarted = 0;
     CMatchRecord m_Current;
     std::vector<CMatchRecord> m_vMatches;
