@@ -10,6 +10,8 @@ PACKAGES=(
   libgl1 libgl1-mesa-dri libglx-mesa0 libegl1 libegl-mesa0                          # OpenGL at run time
   lame                                           # encodes the generated music
   xvfb xauth xdotool                             # the real game under a virtual display, driven by synthetic input
+  iproute2                                       # network tests run on a loopback of their own
+  libcap2-bin                                    # lets the built game take port 666 without being root
 )
 
 missing=()

@@ -298,7 +298,7 @@ CChildProcess::~CChildProcess()
     std::remove(m_ErrFile.c_str());
 }
 
-bool CChildProcess::Start(const std::vector<std::string>& vArgs)
+bool CChildProcess::Start(const std::vector<std::string>& vArgs, const std::string& Folder)
 {
     char szOut[] = "/tmp/trelvane-child-out-XXXXXX";
     char szErr[] = "/tmp/trelvane-child-err-XXXXXX";
@@ -311,6 +311,8 @@ bool CChildProcess::Start(const std::vector<std::string>& vArgs)
     {
         dup2(Out, 1);
         dup2(Err, 2);
+        if(!Folder.empty() && chdir(Folder.c_str()) != 0)
+            _exit(126);
         std::vector<char*> vArgv;
         for(const std::string& Arg : vArgs)
             vArgv.push_back(const_cast<char*>(Arg.c_str()));
@@ -337,6 +339,15 @@ int CChildProcess::Wait(int iTimeoutMs)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
     return m_iExit;
+}
+
+void CChildProcess::Kill()
+{
+    if(m_Pid > 0 && m_iExit == -1)
+    {
+        kill(m_Pid, SIGKILL);
+        Wait(10000);
+    }
 }
 
 int CChildProcess::Stop(int iTimeoutMs)

@@ -93,7 +93,10 @@ class CChildProcess
 {
 public:
     ~CChildProcess();
-    bool Start(const std::vector<std::string>& vArgs);
+    // Starts the program in the folder given, or in the test's own.
+    bool Start(const std::vector<std::string>& vArgs, const std::string& Folder = "");
+    // Ends it at once, by its id, as a machine that is switched off.
+    void Kill();
     // The exit code, or -1 when it has not ended within the time.
     int Wait(int iTimeoutMs);
     // Asks it to end, by its id, and waits for it as Wait does.
