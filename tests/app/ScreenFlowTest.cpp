@@ -4,6 +4,9 @@
 #include "input/KeyCodes.h"
 #include "platform/Audio.h"
 #include "platform/ScriptedInput.h"
+#include "platform/SocketEvents.h"
+
+#include <cstring>
 
 namespace
 {
@@ -252,4 +255,33 @@ TEST_F(ScreenFlow, InPlayTheWheelAndArrowsRideThePathTheMouseTurnsAndTheButtonsS
     EXPECT_EQ(Level.m_ucShotColour, 4);
     EXPECT_EQ(Level.m_ucNextColour, 1);
     EXPECT_TRUE(m_Audio.m_vPlayed.empty());
+}
+
+// Join opens the link as a client to the typed address on the game's port, and the lobby follows even when
+// nobody answers there; the lobby's Return takes the link down and the tables back to a game of one.
+TEST_F(ScreenFlow, JoinOpensTheLinkAndTheLobbysReturnTakesItDownAgain)
+{
+    CNetwork& Network = m_Game.m_Network;
+    CSocketEvents Events;
+    Network.m_pEvents = &Events;
+    std::strcpy(Network.m_szAddressInput, "127.0.0.1");
+    ClickOn(SCREEN_CONNECT, HOT_JOIN);
+    EXPECT_EQ(m_Engine.m_nScreenState, SCREEN_LOBBY);
+    EXPECT_TRUE(Network.m_bNetGame);
+    EXPECT_EQ(Network.m_nLinkMode, NET_MODE_CLIENT);
+    EXPECT_STREQ(Network.m_szServer, "127.0.0.1");
+    EXPECT_EQ(Network.m_nPort, 666u);
+    EXPECT_FALSE(Network.m_bRunning) << "nobody hosts on this machine's loopback";
+
+    Network.m_nMyId = 5;
+    Network.AddPlayer(5);
+    ClickOn(SCREEN_LOBBY, HOT_RETURN);
+    EXPECT_EQ(m_Engine.m_nScreenState, SCREEN_MAIN_MENU);
+    EXPECT_EQ(m_Audio.m_vPlayed, std::vector<uint32_t>({SOUND_CLICK}));
+    EXPECT_FALSE(Network.m_bNetGame);
+    EXPECT_EQ(Network.m_pSocket, nullptr);
+    EXPECT_EQ(Network.m_nPlayers, 1u);
+    EXPECT_EQ(Network.m_nMyId, 0u);
+    EXPECT_TRUE(Network.m_Players[0].m_bPresent);
+    EXPECT_FALSE(Network.m_Players[1].m_bPresent);
 }

@@ -174,8 +174,14 @@ TEST_F(Results, EscapeLeadsToTheMainMenuAndANetworkGameBackToTheLobby)
 
     m_Engine.m_nScreenState = SCREEN_RESULTS;
     m_Game.m_Network.m_bNetGame = true;
+    m_Game.m_Powerups.PushLetter('T');
+    std::strcpy(m_Game.m_Network.m_szLobbyLines[0], "2: gg");
+    m_Game.m_nScore = 700;
     Tap(DIK_SPACE);
     EXPECT_EQ(m_Engine.m_nScreenState, SCREEN_LOBBY);
     EXPECT_FALSE(m_Game.m_Level.m_bWon);
     EXPECT_FALSE(m_Game.m_bInGame);
+    EXPECT_EQ(m_Game.m_Powerups.m_nStackCount, 0u) << "the match is reset on the way";
+    EXPECT_STREQ(m_Game.m_Network.m_szLobbyLines[0], "");
+    EXPECT_EQ(m_Game.m_nScore, 0u);
 }
