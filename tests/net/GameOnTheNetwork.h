@@ -48,6 +48,20 @@ protected:
     bool Join(CWireClient& Client, uint32_t& uiId) { return JoinWire(m_GamePeer, Client, uiId); }
 };
 
+// The game hosts two wire clients.
+class CHostOfTwo : public CHostingGame
+{
+protected:
+    void SetUp() override
+    {
+        CHostingGame::SetUp();
+        ASSERT_TRUE(Join(m_A, m_uiA));
+        ASSERT_TRUE(Join(m_B, m_uiB));
+    }
+    CWireClient m_A, m_B;
+    uint32_t m_uiA = 0, m_uiB = 0;
+};
+
 // The game is a client of a host peer, and wire clients join the same host.
 class CJoinedGame : public CGameOnTheNetwork
 {

@@ -57,6 +57,7 @@ private:
 };
 
 using MatchFlowOnHost = CHostingGame;
+using MatchFlowOnHostOfTwo = CHostOfTwo;
 using MatchFlowOnClient = CJoinedGame;
 } // namespace
 
@@ -92,33 +93,25 @@ TEST_F(MatchFlowOnClient, TheFirstScoreUpdateLeavesAfterASecondAndThenOneEveryTi
 
 // With three in, the first to lose is marked out everywhere and the match goes on; with two in, the loss
 // makes the other the winner.
-TEST_F(MatchFlowOnHost, AFirstLossMarksThePlayerOutAndTheLossOfTheLastButOneEndsTheMatch)
+TEST_F(MatchFlowOnHostOfTwo, AFirstLossMarksThePlayerOutAndTheLossOfTheLastButOneEndsTheMatch)
 {
-    CWireClient a, b;
-    uint32_t uiA = 0, uiB = 0;
-    ASSERT_TRUE(Join(a, uiA));
-    ASSERT_TRUE(Join(b, uiB));
     CNetwork& Network = m_Game.m_Network;
     EXPECT_EQ(Network.CountPlayersIn(), 3u);
-    ASSERT_TRUE(a.Send(WireFrame(NET_PLAYER_OUT, uiA, 1, MARK_PAYLOAD)));
+    ASSERT_TRUE(m_A.Send(WireFrame(NET_PLAYER_OUT, m_uiA, 1, MARK_PAYLOAD)));
     CWireFrame Table;
-    ASSERT_TRUE(Pump([&] { return b.ReadUntil(NET_PLAYER_TABLE, Table, 0) && Table.m_vPayload[9 + 8] == 1; }));
+    ASSERT_TRUE(Pump([&] { return m_B.ReadUntil(NET_PLAYER_TABLE, Table, 0) && Table.m_vPayload[9 + 8] == 1; }));
     EXPECT_TRUE(Network.m_Players[1].m_bFinished);
     EXPECT_EQ(Network.CountPlayersIn(), 2u);
     Network.OnPlayerLost();
     CWireFrame Win;
-    ASSERT_TRUE(Pump([&] { return b.ReadUntil(NET_YOU_WIN, Win, 0); }));
+    ASSERT_TRUE(Pump([&] { return m_B.ReadUntil(NET_YOU_WIN, Win, 0); }));
     EXPECT_EQ(Win.m_uiFrom, 0u);
     EXPECT_FALSE(Network.m_Players[0].m_bFinished) << "the match is over: nobody is marked";
 }
 
 // At the end of the host's clock the highest score wins; of equal scores the later slot.
-TEST_F(MatchFlowOnHost, AtTheEndOfTheClockTheLaterOfEqualScoresWinsAndTheHostLoses)
+TEST_F(MatchFlowOnHostOfTwo, AtTheEndOfTheClockTheLaterOfEqualScoresWinsAndTheHostLoses)
 {
-    CWireClient a, b;
-    uint32_t uiA = 0, uiB = 0;
-    ASSERT_TRUE(Join(a, uiA));
-    ASSERT_TRUE(Join(b, uiB));
     CNetwork& Network = m_Game.m_Network;
     Network.m_Scores[0].m_nScore = 300;
     Network.m_Scores[1].m_nScore = 500;
@@ -126,14 +119,14 @@ TEST_F(MatchFlowOnHost, AtTheEndOfTheClockTheLaterOfEqualScoresWinsAndTheHostLos
     CScoreRow aRanked[MAX_PLAYERS];
     Network.RankPlayers(aRanked);
     EXPECT_EQ(aRanked[0].m_nId, 0u);
-    EXPECT_EQ(aRanked[2].m_nId, uiB);
+    EXPECT_EQ(aRanked[2].m_nId, m_uiB);
     m_Game.m_Logic.m_bActive = true;
     Network.OnTimeUp();
     CWireFrame End;
-    ASSERT_TRUE(Pump([&] { return b.ReadUntil(NET_YOU_WIN, End, 0); }));
-    EXPECT_EQ(End.m_uiTo, uiB);
-    ASSERT_TRUE(a.ReadUntil(NET_YOU_LOSE, End, 1000));
-    EXPECT_EQ(End.m_uiTo, uiA);
+    ASSERT_TRUE(Pump([&] { return m_B.ReadUntil(NET_YOU_WIN, End, 0); }));
+    EXPECT_EQ(End.m_uiTo, m_uiB);
+    ASSERT_TRUE(m_A.ReadUntil(NET_YOU_LOSE, End, 1000));
+    EXPECT_EQ(End.m_uiTo, m_uiA);
     EXPECT_FALSE(m_Game.m_Logic.m_bActive);
     EXPECT_FALSE(m_Game.m_Level.m_bWon);
     EXPECT_EQ(m_Game.m_Graphics.m_nScreenState, SCREEN_RESULTS);

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 using ProtocolOnHost = CHostingGame;
+using ProtocolOnHostOfTwo = CHostOfTwo;
 using ProtocolOnClient = CJoinedGame;
 
 // Each frame that no game could have sent is dropped with one line in the log, a type beyond the table
@@ -40,14 +41,12 @@ TEST_F(ProtocolOnHost, FramesNoGameSendsAreDroppedAndChangeNothing)
 }
 
 // A powerup aimed at the host acts on the host, which shows who sent it and passes it on to nobody.
-TEST_F(ProtocolOnHost, AHaltAimedAtTheHostActsThereAndGoesNoFurther)
+TEST_F(ProtocolOnHostOfTwo, AHaltAimedAtTheHostActsThereAndGoesNoFurther)
 {
-    CWireClient Sender, Bystander;
-    uint32_t uiSender = 0, uiBystander = 0;
-    ASSERT_TRUE(Join(Sender, uiSender));
-    ASSERT_TRUE(Join(Bystander, uiBystander));
+    CWireClient& Sender = m_A;
+    CWireClient& Bystander = m_B;
     SetManualClock(4242);
-    ASSERT_TRUE(Sender.Send(WireFrame(NET_PU_HALT, uiSender, 0, MARK_PAYLOAD)));
+    ASSERT_TRUE(Sender.Send(WireFrame(NET_PU_HALT, m_uiA, 0, MARK_PAYLOAD)));
     ASSERT_TRUE(Pump([this] { return m_Game.m_Powerups.m_bHaltOn; }));
     EXPECT_EQ(Notice(), "Player 2 has used HALT on you");
     EXPECT_EQ(m_Game.m_Network.m_nNoticeTime, 4242u);
@@ -58,23 +57,19 @@ TEST_F(ProtocolOnHost, AHaltAimedAtTheHostActsThereAndGoesNoFurther)
 }
 
 // Every client's update comes back to every client as the whole table, the host's own row first.
-TEST_F(ProtocolOnHost, AScoreUpdateComesBackToEveryClientAsTheWholeTable)
+TEST_F(ProtocolOnHostOfTwo, AScoreUpdateComesBackToEveryClientAsTheWholeTable)
 {
-    CWireClient a, b;
-    uint32_t uiA = 0, uiB = 0;
-    ASSERT_TRUE(Join(a, uiA));
-    ASSERT_TRUE(Join(b, uiB));
     m_Game.m_nScore = 500;
     m_Game.m_Network.m_fDanger = 0.25f;
     m_Game.m_Clock.Update(m_Game.m_Clock.m_nLastTime + 1001);
     m_Game.m_Network.Tick(); // past the first second: the host writes its own row
-    ASSERT_TRUE(a.Send(WireFrame(NET_SCORE_UPDATE, uiA, 0, ScoreRow(2, uiA, 1234, 0.5f))));
+    ASSERT_TRUE(m_A.Send(WireFrame(NET_SCORE_UPDATE, m_uiA, 0, ScoreRow(2, m_uiA, 1234, 0.5f))));
     CWireFrame Table;
-    ASSERT_TRUE(Pump([&] { return b.ReadUntil(NET_SCORE_TABLE, Table, 0); }));
+    ASSERT_TRUE(Pump([&] { return m_B.ReadUntil(NET_SCORE_TABLE, Table, 0); }));
     ASSERT_EQ(Table.m_vPayload.size(), 164u);
     std::vector<uint8_t> vExpected = WireU32(3);
-    for(const std::vector<uint8_t>& vRow : {ScoreRow(0, 0, 500, 0.25f), ScoreRow(2, uiA, 1234, 0.5f),
-                                             ScoreRow(3, uiB, 0, 0.0f)})
+    for(const std::vector<uint8_t>& vRow : {ScoreRow(0, 0, 500, 0.25f), ScoreRow(2, m_uiA, 1234, 0.5f),
+                                             ScoreRow(3, m_uiB, 0, 0.0f)})
         vExpected.insert(vExpected.end(), vRow.begin(), vRow.end());
     EXPECT_EQ(std::vector<uint8_t>(Table.m_vPayload.begin(), Table.m_vPayload.begin() + 64), vExpected);
 }
