@@ -41,9 +41,10 @@ int StepTowards(int iDistance)
 }
 } // namespace
 
-void DisplayInput(const std::string& Arguments)
+void DisplayInput(const std::string& Arguments, const std::string& Display)
 {
-    EXPECT_EQ(std::system(("xdotool " + Arguments).c_str()), 0) << Arguments;
+    const std::string Command = (Display.empty() ? "" : "DISPLAY='" + Display + "' ") + "xdotool " + Arguments;
+    EXPECT_EQ(std::system(Command.c_str()), 0) << Command;
     Pause(STEP_MS);
 }
 
@@ -56,6 +57,17 @@ CGameSession::~CGameSession()
     }
 }
 
+void CGameSession::UseDisplay(const std::string& Display, const std::string& FrameBufferFile)
+{
+    m_Display = Display;
+    m_FrameBufferFile = FrameBufferFile;
+}
+
+void CGameSession::Input(const std::string& Arguments) const
+{
+    DisplayInput(Arguments, m_Display);
+}
+
 bool CGameSession::Start(const std::string& Binary, const std::string& Folder)
 {
     m_Folder = Folder;
@@ -64,6 +76,8 @@ bool CGameSession::Start(const std::string& Binary, const std::string& Folder)
     {
         // The child: no sound card here, and everything it prints goes to its log.
         setenv("SDL_AUDIODRIVER", "dummy", 1);
+        if(!m_Display.empty())
+            setenv("DISPLAY", m_Display.c_str(), 1);
         if(chdir(Folder.c_str()) != 0 || !freopen("game.log", "w", stdout) || !freopen("game.log", "a", stderr))
             _exit(127);
         execl(Binary.c_str(), Binary.c_str(), static_cast<char*>(nullptr));
@@ -98,14 +112,16 @@ std::string CGameSession::Log() const
 
 void CGameSession::Key(const std::string& Name)
 {
-    DisplayInput("keydown " + Name);
-    DisplayInput("keyup " + Name);
+    Input("keydown " + Name);
+    Pause(m_iHoldMs);
+    Input("keyup " + Name);
 }
 
 void CGameSession::Click(int iButton)
 {
-    DisplayInput("mousedown " + std::to_string(iButton));
-    DisplayInput("mouseup " + std::to_string(iButton));
+    Input("mousedown " + std::to_string(iButton));
+    Pause(m_iHoldMs);
+    Input("mouseup " + std::to_string(iButton));
 }
 
 bool CGameSession::MoveCursorTo(int& x, int& y)
@@ -122,8 +138,8 @@ bool CGameSession::MoveCursorTo(int& x, int& y)
             y = iAtY;
             return true;
         }
-        DisplayInput("mousemove_relative -- " + std::to_string(StepTowards(x - iAtX)) + " " +
-                     std::to_string(StepTowards(y - iAtY)));
+        Input("mousemove_relative -- " + std::to_string(StepTowards(x - iAtX)) + " " +
+              std::to_string(StepTowards(y - iAtY)));
         Pause(2 * STEP_MS);
     }
     return false;
@@ -131,7 +147,7 @@ bool CGameSession::MoveCursorTo(int& x, int& y)
 
 bool CGameSession::GrabScreen(CPicture& Screen) const
 {
-    return ReadScreen(FrameBufferFile(), Screen);
+    return ReadScreen(m_FrameBufferFile.empty() ? FrameBufferFile() : m_FrameBufferFile, Screen);
 }
 
 bool CGameSession::WaitForScreen(const std::function<bool(const CPicture&)>& fnTest, int iSeconds, CPicture* pLast)

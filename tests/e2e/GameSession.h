@@ -11,6 +11,9 @@ class CGameSession
 {
 public:
     ~CGameSession();
+    // Binds the session to another display than the one the tests run on, read back from its frame buffer
+    // file; called before Start. Without it the game and the input go to the tests' own display.
+    void UseDisplay(const std::string& Display, const std::string& FrameBufferFile);
     // Starts the binary in the folder, silent, and waits until its window shows something.
     bool Start(const std::string& Binary, const std::string& Folder);
     // Waits for the game to end; its exit code, or -1 when it was still running after the time.
@@ -29,13 +32,21 @@ public:
     bool SaveScreen(const std::string& FileName) const;
 
     CPicture m_Cursor; // the cursor's picture, found on screen by its opaque pixels
+    // How much longer than the input step keys and buttons stay down: the game reads them once a frame, and a
+    // game that shares the machine with others may draw slow frames that a short press falls between.
+    int m_iHoldMs = 0;
 
 private:
     bool FindCursor(const CPicture& Screen, int& x, int& y) const;
 
+    void Input(const std::string& Arguments) const;
+
     pid_t m_Pid = -1;
     std::string m_Folder;
+    std::string m_Display;         // empty: the tests' own display
+    std::string m_FrameBufferFile; // empty: the tests' own display's
 };
 
-// Runs an input command of the display and waits a little, so that the game sees each step in its own frames.
-void DisplayInput(const std::string& Arguments);
+// Runs an input command of a display (by default the tests' own) and waits a little, so that the game sees
+// each step in its own frames.
+void DisplayInput(const std::string& Arguments, const std::string& Display = "");

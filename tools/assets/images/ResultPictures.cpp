@@ -75,8 +75,9 @@ Canvas winPicture()
                 solid(hex(0xffe7a3, 0.05f)), Blend::Add);
     }
     burst(c);
-    screenTitle(c, "Level Complete!", 400, kTitleCentre - 40, 54, true);
-    subtitle(c, "Every chain is gone. Well played!");
+    // The same picture greets a cleared level and a network race won on points, so it says only who won.
+    screenTitle(c, "You Win!", 400, kTitleCentre - 40, 54, true);
+    subtitle(c, "Well played!");
     statsPanel(c);
     return c;
 }
@@ -89,7 +90,7 @@ Canvas losePicture()
     // A chain that made it all the way down to its pit.
     decorativeChain(c, {{40, -20}, {120, 120}, {60, 260}, {120, 380}, {90, 470}}, 12, 37);
     screenTitle(c, "Level Lost", 400, kTitleCentre - 40, 54, true);
-    subtitle(c, "The marbles got through this time. Try again!");
+    subtitle(c, "Better luck next time!");
     statsPanel(c);
     return c;
 }
