@@ -1,4 +1,5 @@
 #include "gfx/EngineFixture.h"
+#include "net/Messages.h"
 
 #include "math/FloatBits.h"
 
@@ -215,4 +216,25 @@ TEST_F(Hud, BurstsAreAdditiveFlaresInBatchesOf32AndTheOverlayBlendsByAlphaAfterT
     Overlay();
     EXPECT_EQ(PointBatches(), (std::vector<std::pair<uint32_t, uint32_t>>({{0, 32}, {32, 32}, {64, 32}, {96, 32}})));
     EXPECT_EQ(Particles.m_uiVBOffset, 32u) << "128 points fill the buffer and the next batch starts over";
+}
+
+// The dangers in the host's score table become the other players' faces in the next frame.
+TEST_F(Hud, TheDangersOfTheHostsScoreTableBecomeThePlayersFaces)
+{
+    Start();
+    CNetwork& Network = m_Game.m_Network;
+    Network.m_bNetGame = true;
+    uint8_t aTable[SCORE_TABLE_SIZE] = {3};
+    const float afDanger[3] = {0.1f, 0.6f, 0.95f};
+    for(uint32_t i = 0; i < 3; i++)
+    {
+        Network.m_Players[i] = {i, true, false};
+        WriteScoreRow(aTable + 4 + SCORE_ROW_SIZE * i, CScoreRow{i + 1, i, 100 * i, afDanger[i], false});
+    }
+    Network.m_nPlayers = 3;
+    Network.ApplyScoreTable(aTable);
+    Overlay();
+    EXPECT_EQ(m_Engine.m_aSprites[SPR_HUD_FACE1].m_pImage, m_Engine.Face(0));
+    EXPECT_EQ(m_Engine.m_aSprites[SPR_HUD_FACE2].m_pImage, m_Engine.Face(2));
+    EXPECT_EQ(m_Engine.m_aSprites[SPR_HUD_FACE3].m_pImage, m_Engine.Face(3));
 }
