@@ -14,9 +14,14 @@ constexpr uint32_t FRAME_MS = 10;
 constexpr uint32_t JOIN_TRIES_MS = 5000; // how long a client keeps knocking at a host that is not up yet
 constexpr uint32_t JOIN_RETRY_MS = 200;
 constexpr uint32_t RESULTS_VIEW_MS = 1500; // how long the bot looks at the results at the least
-// The others may still be racing: the bot goes back once the score rows have stood still this long, so that
-// every bot of a match takes the same final rows away with it.
+// The others may still be racing: the match's rows are the ones that have stood still this long, which every
+// bot of the match sees at the same moment. A bot goes back to the lobby a while after taking them, since
+// going back resets its own row on every table, which the others must not take for the match's.
 constexpr uint32_t ROWS_SETTLED_MS = 1000;
+constexpr uint32_t BACK_AFTER_ROWS_MS = 500;
+// After its last match a bot stays a moment in the lobby, so that its leaving does not change the rows that
+// the others are about to take away.
+constexpr uint32_t LINGER_MS = 1000;
 
 // Rows as every machine holds them: a client's own row carries number 0 between two tables, so the number is
 // left out of the comparison.
@@ -70,7 +75,7 @@ bool CBotPlayer::HasJoined() const
 
 void CBotPlayer::BeforeFrame()
 {
-    if(Elapsed() >= m_Options.m_uiQuitAfterMs)
+    if(Elapsed() >= m_Options.m_uiQuitAfterMs || Elapsed() >= m_uiEndAtMs)
         m_bDone = true;
     if(m_Options.m_uiLeaveAfterMs > 0 && Elapsed() >= m_Options.m_uiLeaveAfterMs)
     {
@@ -181,24 +186,37 @@ void CBotPlayer::AfterFrame()
     if(m_Game.m_Graphics.m_nScreenState == SCREEN_RESULTS && !m_bOnResults)
     {
         m_bOnResults = true;
+        m_bRowsTaken = false;
         m_uiResultsMs = uiNow;
         m_vLastRows.clear();
         m_Current.m_uiScore = m_Game.m_nScore;
     }
     if(!m_bOnResults)
         return;
+    if(!m_bRowsTaken)
+        WatchRows(uiNow);
+    if(m_bRowsTaken && uiNow - m_uiResultsMs >= RESULTS_VIEW_MS && uiNow - m_uiRowsMs >= BACK_AFTER_ROWS_MS)
+        LeaveResults();
+}
+
+void CBotPlayer::WatchRows(uint32_t uiNow)
+{
     const std::vector<CScoreRow> vRows = ListedRows();
     if(!SameRows(vRows, m_vLastRows))
     {
         m_vLastRows = vRows;
         m_uiRowsMs = uiNow;
     }
-    if(uiNow - m_uiResultsMs >= RESULTS_VIEW_MS && uiNow - m_uiRowsMs >= ROWS_SETTLED_MS)
-        LeaveResults();
+    else if(uiNow - m_uiRowsMs >= ROWS_SETTLED_MS)
+    {
+        m_Current.m_vRows = vRows;
+        m_bRowsTaken = true;
+        m_uiRowsMs = uiNow;
+    }
 }
 
-// The space bar on the results: the rows and the outcome as they stand are the match's, and the bot is back
-// in the lobby.
+// The space bar on the results: the outcome as it stands and the rows taken are the match's, and the bot is
+// back in the lobby.
 // A results screen that no match of this bot led to (a late message) is left without a record.
 void CBotPlayer::LeaveResults()
 {
@@ -207,7 +225,8 @@ void CBotPlayer::LeaveResults()
     if(m_bInMatch)
     {
         m_Current.m_bWon = m_Game.m_Level.m_bWon; // as the results screen shows it when the bot leaves
-        m_Current.m_vRows = ListedRows();
+        if(!m_bRowsTaken)
+            m_Current.m_vRows = ListedRows();
         m_vMatches.push_back(m_Current);
         m_bInMatch = false;
     }
@@ -215,5 +234,5 @@ void CBotPlayer::LeaveResults()
     m_Game.m_Level.m_bWon = false;
     m_Game.m_Graphics.m_nScreenState = SCREEN_LOBBY;
     if(m_vMatches.size() >= m_Options.m_uiMatches)
-        m_bDone = true;
+        m_uiEndAtMs = Elapsed() + LINGER_MS;
 }
