@@ -9,7 +9,7 @@ CMessageQueue::~CMessageQueue()
         FreeNode(pNode);
 }
 
-bool CMessageQueue::Push(const uint8_t* pFrame, uint32_t uiSize)
+bool CMessageQueue::Push(const uint8_t* pFrame, uint32_t uiSize, uint32_t uiSource)
 {
     CMessageNode* pNode = new(std::nothrow) CMessageNode;
     uint8_t* pCopy = new(std::nothrow) uint8_t[uiSize];
@@ -22,6 +22,7 @@ bool CMessageQueue::Push(const uint8_t* pFrame, uint32_t uiSize)
     std::memcpy(pCopy, pFrame, uiSize);
     pNode->m_pData = pCopy;
     pNode->m_nSize = uiSize;
+    pNode->m_nSource = uiSource;
     if(m_pTail)
         m_pTail->m_pNext = pNode;
     else

@@ -7,6 +7,7 @@ struct CMessageNode
     CMessageNode* m_pNext = nullptr;
     uint8_t* m_pData = nullptr;
     uint32_t m_nSize = 0;
+    uint32_t m_nSource = 0; // the id of the machine whose connection it came on
 };
 
 // The frames received and not yet handled, first in first out. Destroying the queue frees what is left.
@@ -19,7 +20,7 @@ public:
     ~CMessageQueue();
 
     // Appends a copy of the bytes; false, with nothing queued, when there is no memory for it.
-    bool Push(const uint8_t* pFrame, uint32_t uiSize);
+    bool Push(const uint8_t* pFrame, uint32_t uiSize, uint32_t uiSource);
     // Takes the oldest node off the queue; the caller frees it with FreeNode. Null when empty.
     CMessageNode* Pop();
     static void FreeNode(CMessageNode* pNode);

@@ -86,6 +86,7 @@ bool CNetwork::CreateClient()
     Log("Socket constructed in create client");
     if(!m_pSocket->Create())
         return false;
+    m_pSocket->m_uiReadRate = CLIENT_READ_RATE;
     Log("socket created");
     if(!m_pSocket->Connect(m_szServer, static_cast<uint16_t>(m_nPort)))
         return false;
@@ -154,6 +155,10 @@ void CNetwork::OnSocketEvent(int Socket, uint32_t uiEvent)
     switch(uiEvent & EVENT_MASK)
     {
     case FD_READ: OnReceive(Socket); break;
+    case FD_WRITE:
+        if(m_pSocket)
+            m_pSocket->Flush(Socket);
+        break;
     case FD_ACCEPT: OnAccept(); break;
     case FD_CLOSE: OnDisconnect(Socket); break;
     default: break;
@@ -185,6 +190,8 @@ bool CNetwork::OnAccept()
     return true;
 }
 
+// The host marks every frame with the id of the client whose connection it came on: the one thing about a
+// frame that its sender cannot make up.
 bool CNetwork::OnReceive(int Socket)
 {
     if(!m_bRunning || !m_pSocket)
@@ -192,7 +199,25 @@ bool CNetwork::OnReceive(int Socket)
         Log("error: m_bRunning = 0 in CNetwork::OnReceive");
         return false;
     }
-    return m_pSocket->Receive(Socket);
+    if(!IsHost())
+        return m_pSocket->Receive(Socket, FROM_HOST);
+    uint8_t uiSlot = 0;
+    if(!FindClient(Socket, uiSlot))
+    {
+        Log("error: data from a connection that is not listed");
+        return false;
+    }
+    return m_pSocket->Receive(Socket, m_Clients[uiSlot].m_nId);
+}
+
+bool CNetwork::FindClient(int Socket, uint8_t& uiSlot) const
+{
+    for(uiSlot = 0; uiSlot < m_nClients; uiSlot++)
+    {
+        if(m_Clients[uiSlot].m_Socket == Socket)
+            return true;
+    }
+    return false;
 }
 
 // The last client moves into the freed place, so the first m_nClients entries stay the used ones.
@@ -204,9 +229,7 @@ bool CNetwork::OnDisconnect(int Socket)
     uint8_t uiSlot = 0;
     if(IsHost())
     {
-        while(uiSlot < m_nClients && m_Clients[uiSlot].m_Socket != Socket)
-            uiSlot++;
-        if(uiSlot == m_nClients)
+        if(!FindClient(Socket, uiSlot))
         {
             Log("error: not listed client wants to be disconnected");
             return false;
@@ -247,9 +270,9 @@ bool CNetwork::HasMessage() const
     return m_pSocket && m_pSocket->HasMessage();
 }
 
-bool CNetwork::GetMessage(CNetMessage& Message)
+bool CNetwork::GetMessage(CNetMessage& Message, uint32_t* pSource)
 {
-    return m_pSocket && m_pSocket->GetMessage(Message);
+    return m_pSocket && m_pSocket->GetMessage(Message, pSource);
 }
 
 bool CNetwork::CopyToSendBuffer(const CNetMessage& Message)

@@ -93,7 +93,8 @@ public:
     bool OnReceive(int Socket);
     bool OnDisconnect(int Socket);
     bool HasMessage() const;
-    bool GetMessage(CNetMessage& Message);
+    // The oldest frame received, as CSocket::GetMessage gives it, with the id of the machine it came from.
+    bool GetMessage(CNetMessage& Message, uint32_t* pSource = nullptr);
 
     // The messages and the tables they keep in step.
     void ProcessMessages();
@@ -172,6 +173,9 @@ private:
     void ClearSlot(uint32_t uiSlot);
     void ResetTables();
     bool OwnSlotFinished() const;
+    bool FindClient(int Socket, uint8_t& uiSlot) const;
+    bool SpeaksForItself(const CNetMessage& Message, uint32_t uiSource) const;
+    bool SpeaksForOwnSlot(const CNetMessage& Message, uint32_t uiSource) const;
     void Handle(const CNetMessage& Message);
     void Relay(const struct CMessageInfo& Info, const CNetMessage& Message);
     void OnPlayerJoined(uint32_t uiId);

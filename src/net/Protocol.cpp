@@ -2,6 +2,7 @@
 #include "net/Log.h"
 #include "net/Messages.h"
 #include "net/Network.h"
+#include "net/Socket.h"
 #include "net/TextField.h"
 #include "platform/Clock.h"
 #include "powerups/PowerupTable.h"
@@ -10,13 +11,17 @@
 #include <cstring>
 
 // Messages are handled strictly in the order they came, until none is left; a frame that no game could have
-// sent is dropped with a line in the log, and a type beyond the table without one.
+// sent, or that a client sent in another's name, is dropped with a line in the log, and a type beyond the
+// table without one.
 void CNetwork::ProcessMessages()
 {
+    if(m_pSocket)
+        m_pSocket->ResumeReading();
     uint8_t aPayload[NET_PAYLOAD_BUFFER];
     CNetMessage Message;
     Message.m_pData = aPayload;
-    while(GetMessage(Message))
+    uint32_t uiSource = FROM_HOST;
+    while(GetMessage(Message, &uiSource))
     {
         if(Message.m_nType >= NUM_MESSAGE_TYPES)
             continue;
@@ -26,6 +31,8 @@ void CNetwork::ProcessMessages()
             Log("error: %s of %u bytes does not fit its type, dropped", Info.m_pName, Message.m_nSize);
             continue;
         }
+        if(!SpeaksForItself(Message, uiSource))
+            continue;
         Handle(Message);
         if(IsHost())
             Relay(Info, Message);

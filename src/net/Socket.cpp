@@ -1,6 +1,7 @@
 #include "net/Socket.h"
 
 #include "net/Log.h"
+#include "platform/Clock.h"
 #include "platform/SocketEvents.h"
 
 #include <algorithm>
@@ -78,6 +79,23 @@ bool LookUp(const char* pName, in_addr& Address)
     Address = reinterpret_cast<const sockaddr_in*>(pList->ai_addr)->sin_addr;
     freeaddrinfo(pList);
     return true;
+}
+
+// Sends as much as the connection has room for without waiting: the bytes sent, or -1 when it has failed. A
+// peer that has gone must not take the game with it, so no send may raise SIGPIPE.
+ssize_t SendNow(int Socket, const uint8_t* pBytes, uint32_t uiCount)
+{
+    uint32_t uiSent = 0;
+    while(uiSent < uiCount)
+    {
+        const ssize_t iResult = send(Socket, pBytes + uiSent, uiCount - uiSent, MSG_NOSIGNAL);
+        if(iResult == -1 && errno == EINTR)
+            continue;
+        if(iResult == -1)
+            return IsNothingToRead(errno) ? static_cast<ssize_t>(uiSent) : -1;
+        uiSent += static_cast<uint32_t>(iResult);
+    }
+    return static_cast<ssize_t>(uiSent);
 }
 
 // Waits for a connect under way; errno tells why it failed, ETIMEDOUT when it took too long.
@@ -238,10 +256,18 @@ int CSocket::CloseConnection(int Socket)
 {
     if(m_pEvents)
         m_pEvents->Forget(Socket);
-    m_Partial.erase(Socket);
+    m_Connections.erase(Socket);
     if(Socket == m_Socket)
         m_Socket = -1;
     return close(Socket);
+}
+
+CSocket::CConnection& CSocket::ConnectionOf(int Socket)
+{
+    auto it = m_Connections.find(Socket);
+    if(it == m_Connections.end())
+        it = m_Connections.emplace(Socket, CConnection(m_uiReadRate, timeGetTime())).first;
+    return it->second;
 }
 
 int CSocket::Send(const uint8_t* pBuffer, uint32_t uiCount)
@@ -249,56 +275,132 @@ int CSocket::Send(const uint8_t* pBuffer, uint32_t uiCount)
     return SendTo(pBuffer, uiCount, m_Socket);
 }
 
-// A peer that has gone must not take the game with it, so no send may raise SIGPIPE.
+// Bytes queued behind others must wait their turn, or the stream would mix them.
 int CSocket::SendTo(const uint8_t* pBuffer, uint32_t uiCount, int Socket)
 {
-    uint32_t uiSent = 0;
-    while(uiSent < uiCount)
+    CConnection& Link = ConnectionOf(Socket);
+    if(Link.m_bCutOff)
+        return -1;
+    ssize_t iSent = 0;
+    if(Link.m_vOutgoing.empty())
+        iSent = SendNow(Socket, pBuffer, uiCount);
+    if(iSent == -1)
     {
-        const ssize_t iResult = send(Socket, pBuffer + uiSent, uiCount - uiSent, MSG_NOSIGNAL);
-        if(iResult == -1)
-        {
-            ReportError("send() in CSocket");
-            return -1;
-        }
-        uiSent += static_cast<uint32_t>(iResult);
+        ReportError("send() in CSocket");
+        return -1;
     }
-    return static_cast<int>(uiSent);
+    const uint32_t uiSent = static_cast<uint32_t>(iSent);
+    if(uiSent < uiCount && !Hold(Socket, Link, pBuffer + uiSent, uiCount - uiSent))
+        return -1;
+    return static_cast<int>(uiCount);
 }
 
-// A read that fills the buffer to its last byte may have left more behind, so it reads again.
-bool CSocket::Receive(int Socket)
+bool CSocket::Hold(int Socket, CConnection& Link, const uint8_t* pBytes, uint32_t uiCount)
+{
+    const uint32_t uiWaiting = static_cast<uint32_t>(Link.m_vOutgoing.size()) + uiCount;
+    if(uiWaiting > SEND_QUEUE_LIMIT)
+    {
+        Log("error: %u bytes wait for a peer that does not read, connection %d cut off", uiWaiting, Socket);
+        CutOff(Socket, Link);
+        return false;
+    }
+    Link.m_vOutgoing.insert(Link.m_vOutgoing.end(), pBytes, pBytes + uiCount);
+    if(m_pEvents)
+        m_pEvents->WantWrite(Socket, true);
+    return true;
+}
+
+void CSocket::Flush(int Socket)
+{
+    const auto it = m_Connections.find(Socket);
+    if(it == m_Connections.end() || it->second.m_bCutOff)
+        return;
+    std::vector<uint8_t>& vOut = it->second.m_vOutgoing;
+    const ssize_t iSent = SendNow(Socket, vOut.data(), static_cast<uint32_t>(vOut.size()));
+    if(iSent == -1)
+    {
+        ReportError("send() in CSocket::Flush");
+        vOut.clear();
+    }
+    else
+        vOut.erase(vOut.begin(), vOut.begin() + iSent);
+    if(vOut.empty() && m_pEvents)
+        m_pEvents->WantWrite(Socket, false);
+}
+
+// A connection is read until it has nothing more or its allowance is spent; a spent one is not watched for
+// reading until ResumeReading finds its allowance grown back, so a flood never holds the game in here.
+bool CSocket::Receive(int Socket, uint32_t uiSource)
 {
     if(!m_pBuffer || !m_pQueue)
         return false;
-    for(;;)
+    CConnection& Link = ConnectionOf(Socket);
+    Link.m_Allowance.Refill(timeGetTime());
+    bool bMore = true;
+    while(bMore && Link.m_Allowance.Left() > 0)
     {
-        const uint32_t uiFill = RestorePartial(Socket);
-        const ssize_t iRead = recv(Socket, m_pBuffer + uiFill, SOCKET_BUFFER_SIZE - uiFill, 0);
-        if(iRead == -1 && IsNothingToRead(errno))
-            return ParseBuffer(Socket, uiFill);
-        if(iRead == -1)
-        {
-            ReportError("recv() in CSocket::Receive");
+        if(!ReadOnce(Socket, Link, uiSource, bMore))
             return false;
-        }
-        if(!ParseBuffer(Socket, uiFill + static_cast<uint32_t>(iRead)))
-            return false;
-        if(iRead == 0 || uiFill + static_cast<uint32_t>(iRead) < SOCKET_BUFFER_SIZE)
-            return true;
+    }
+    if(bMore && !Link.m_bCutOff)
+    {
+        Link.m_bPaused = true;
+        if(m_pEvents)
+            m_pEvents->PauseReading(Socket, true);
+    }
+    return true;
+}
+
+// One read into the buffer behind what the connection left half-received. More may wait when the read took
+// all it was offered.
+bool CSocket::ReadOnce(int Socket, CConnection& Link, uint32_t uiSource, bool& bMore)
+{
+    const uint32_t uiFill = RestorePartial(Link);
+    const uint32_t uiRoom = std::min(SOCKET_BUFFER_SIZE - uiFill, Link.m_Allowance.Left());
+    const ssize_t iRead = recv(Socket, m_pBuffer + uiFill, uiRoom, 0);
+    bMore = false;
+    if(iRead == -1 && IsNothingToRead(errno))
+        return ParseBuffer(Socket, uiFill, uiSource);
+    if(iRead == -1)
+    {
+        ReportError("recv() in CSocket::Receive");
+        return false;
+    }
+    const uint32_t uiRead = static_cast<uint32_t>(iRead);
+    Link.m_Allowance.Take(uiRead);
+    bMore = uiRead > 0 && uiRead == uiRoom;
+    return ParseBuffer(Socket, uiFill + uiRead, uiSource);
+}
+
+// A paused connection is taken up again once it may deliver at least a whole frame of the largest size.
+void CSocket::ResumeReading()
+{
+    const uint32_t uiNow = timeGetTime();
+    for(auto& Entry : m_Connections)
+    {
+        CConnection& Link = Entry.second;
+        if(!Link.m_bPaused)
+            continue;
+        Link.m_Allowance.Refill(uiNow);
+        if(Link.m_Allowance.Left() < NET_MAX_FRAME)
+            continue;
+        Link.m_bPaused = false;
+        if(m_pEvents)
+            m_pEvents->PauseReading(Entry.first, false);
     }
 }
 
-bool CSocket::Absorb(int Socket, const uint8_t* pBytes, uint32_t uiCount)
+bool CSocket::Absorb(int Socket, const uint8_t* pBytes, uint32_t uiCount, uint32_t uiSource)
 {
     if(!m_pBuffer || !m_pQueue)
         return false;
+    CConnection& Link = ConnectionOf(Socket);
     while(uiCount > 0)
     {
-        const uint32_t uiFill = RestorePartial(Socket);
+        const uint32_t uiFill = RestorePartial(Link);
         const uint32_t uiTaken = std::min(uiCount, SOCKET_BUFFER_SIZE - uiFill);
         std::memcpy(m_pBuffer + uiFill, pBytes, uiTaken);
-        if(!ParseBuffer(Socket, uiFill + uiTaken))
+        if(!ParseBuffer(Socket, uiFill + uiTaken, uiSource))
             return false;
         pBytes += uiTaken;
         uiCount -= uiTaken;
@@ -307,48 +409,54 @@ bool CSocket::Absorb(int Socket, const uint8_t* pBytes, uint32_t uiCount)
 }
 
 // What the connection left half-received goes back to the start of the buffer; returns its length.
-uint32_t CSocket::RestorePartial(int Socket)
+uint32_t CSocket::RestorePartial(CConnection& Link)
 {
-    const auto it = m_Partial.find(Socket);
-    if(it == m_Partial.end())
-        return 0;
-    const uint32_t uiFill = static_cast<uint32_t>(it->second.size());
-    std::memcpy(m_pBuffer, it->second.data(), uiFill);
-    m_Partial.erase(it);
+    const uint32_t uiFill = static_cast<uint32_t>(Link.m_vPartial.size());
+    if(uiFill > 0)
+        std::memcpy(m_pBuffer, Link.m_vPartial.data(), uiFill);
+    Link.m_vPartial.clear();
     return uiFill;
 }
 
 // More than a header must be there before one is read: every frame carries at least one byte. The limit on
 // the announced size keeps what waits for a connection under one frame, far below the buffer's size.
-bool CSocket::ParseBuffer(int Socket, uint32_t uiFill)
+bool CSocket::ParseBuffer(int Socket, uint32_t uiFill, uint32_t uiSource)
 {
+    CConnection& Link = ConnectionOf(Socket);
     uint32_t uiPos = 0;
     while(uiFill - uiPos > NET_HEADER_SIZE)
     {
         const uint32_t uiSize = ReadU32(m_pBuffer + uiPos);
         if(uiSize > NET_MAX_PAYLOAD)
         {
-            CutOff(Socket, uiSize);
+            Log("error: a frame of %u bytes is more than any message, connection %d cut off", uiSize, Socket);
+            CutOff(Socket, Link);
             return false;
         }
         const uint32_t uiFrame = NET_HEADER_SIZE + uiSize;
         if(uiFrame > uiFill - uiPos)
             break;
-        if(!m_pQueue->Push(m_pBuffer + uiPos, uiFrame))
+        if(!m_pQueue->Push(m_pBuffer + uiPos, uiFrame, uiSource))
             Log("error: no memory to queue a frame of %u bytes", uiFrame);
         uiPos += uiFrame;
     }
     if(uiPos < uiFill)
-        m_Partial[Socket].assign(m_pBuffer + uiPos, m_pBuffer + uiFill);
+        Link.m_vPartial.assign(m_pBuffer + uiPos, m_pBuffer + uiFill);
     return true;
 }
 
-// The stream has lost all meaning, so nothing more is read from it: the shut-down connection comes back as a
-// close, and leaves like any other.
-void CSocket::CutOff(int Socket, uint32_t uiSize)
+// The stream has lost all meaning, or the peer has stopped reading it, so nothing more goes either way: the
+// shut-down connection comes back as a close, and leaves like any other.
+void CSocket::CutOff(int Socket, CConnection& Link)
 {
-    Log("error: a frame of %u bytes is more than any message, connection %d cut off", uiSize, Socket);
-    m_Partial.erase(Socket);
+    Link.m_vPartial.clear();
+    Link.m_vOutgoing.clear();
+    Link.m_bCutOff = true;
+    if(m_pEvents)
+    {
+        m_pEvents->WantWrite(Socket, false);
+        m_pEvents->PauseReading(Socket, false);
+    }
     shutdown(Socket, SHUT_RDWR);
 }
 
@@ -357,12 +465,14 @@ bool CSocket::HasMessage() const
     return m_pQueue && m_pQueue->m_nCount > 0;
 }
 
-bool CSocket::GetMessage(CNetMessage& Message)
+bool CSocket::GetMessage(CNetMessage& Message, uint32_t* pSource)
 {
     CMessageNode* pNode = m_pQueue ? m_pQueue->Pop() : nullptr;
     if(!pNode)
         return false;
     ReadHeader(pNode->m_pData, Message);
+    if(pSource)
+        *pSource = pNode->m_nSource;
     if(Message.m_nSize > 0)
         std::memcpy(Message.m_pData, pNode->m_pData + NET_HEADER_SIZE, Message.m_nSize);
     CMessageQueue::FreeNode(pNode);
@@ -377,7 +487,7 @@ bool CSocket::PutMessage(const CNetMessage& Message)
     WriteHeader(aFrame, Message);
     if(Message.m_nSize > 0)
         std::memcpy(aFrame + NET_HEADER_SIZE, Message.m_pData, Message.m_nSize);
-    return m_pQueue->Push(aFrame, NET_HEADER_SIZE + Message.m_nSize);
+    return m_pQueue->Push(aFrame, NET_HEADER_SIZE + Message.m_nSize, FROM_HOST);
 }
 
 void CSocket::ReportError(const char* pContext) const

@@ -26,15 +26,6 @@ bool HasUnreadData(int Socket)
     int iBytes = 0;
     return ioctl(Socket, FIONREAD, &iBytes) == 0 && iBytes > 0;
 }
-
-std::vector<pollfd> PollSet(const std::vector<int>& vSockets)
-{
-    std::vector<pollfd> vSet;
-    vSet.reserve(vSockets.size());
-    for(int Socket : vSockets)
-        vSet.push_back({Socket, POLLIN | POLLRDHUP, 0});
-    return vSet;
-}
 } // namespace
 
 int CSocketEvents::Select(int Socket, uint32_t uiEvents)
@@ -42,7 +33,7 @@ int CSocketEvents::Select(int Socket, uint32_t uiEvents)
     if(Socket < 0 || !MakeNonBlocking(Socket))
         return -1;
     Forget(Socket);
-    m_vWatches.push_back({Socket, uiEvents, IsListening(Socket), true});
+    m_vWatches.push_back({Socket, uiEvents, IsListening(Socket), true, false, false});
     return 0;
 }
 
@@ -70,6 +61,28 @@ void CSocketEvents::Forget(int Socket)
                     m_Pending.end());
 }
 
+CSocketEvents::CWatch* CSocketEvents::Find(int Socket)
+{
+    for(CWatch& Watch : m_vWatches)
+    {
+        if(Watch.m_Socket == Socket)
+            return &Watch;
+    }
+    return nullptr;
+}
+
+void CSocketEvents::PauseReading(int Socket, bool bPaused)
+{
+    if(CWatch* pWatch = Find(Socket))
+        pWatch->m_bPaused = bPaused;
+}
+
+void CSocketEvents::WantWrite(int Socket, bool bWant)
+{
+    if(CWatch* pWatch = Find(Socket))
+        pWatch->m_bWantWrite = bWant;
+}
+
 bool CSocketEvents::IsWatched(int Socket) const
 {
     return std::any_of(m_vWatches.begin(), m_vWatches.end(),
@@ -88,43 +101,56 @@ uint32_t CSocketEvents::EventOf(const CWatch& Watch, short sReady) const
     return (sReady & POLLIN) ? FD_READ : 0;
 }
 
-// A listener whose waiting connection was refused stays ready until a place frees; a loop that waits on it
-// would spin, so Wait leaves it out until an accept is made again.
-std::vector<int> CSocketEvents::WatchedSockets(bool bForWait) const
+// A listener whose waiting connection was refused stays ready until a place frees, and a paused socket whose
+// peer has gone reports that at once; a loop that waits on either would spin, so Wait leaves them out. For a
+// poll, every watch has its entry, in the same order.
+std::vector<pollfd> CSocketEvents::PollSet(bool bForWait) const
 {
-    std::vector<int> vSockets;
+    std::vector<pollfd> vSet;
+    vSet.reserve(m_vWatches.size());
     for(const CWatch& Watch : m_vWatches)
     {
-        if(!bForWait || !Watch.m_bListening || Watch.m_bAcceptTaken)
-            vSockets.push_back(Watch.m_Socket);
+        const bool bRefused = Watch.m_bListening && !Watch.m_bAcceptTaken;
+        const short sRead = Watch.m_bPaused ? 0 : POLLIN | POLLRDHUP;
+        const short sEvents = static_cast<short>(sRead | (Watch.m_bWantWrite ? POLLOUT : 0));
+        if(!bForWait || (!bRefused && sEvents != 0))
+            vSet.push_back({Watch.m_Socket, sEvents, 0});
     }
-    return vSockets;
+    return vSet;
 }
 
 void CSocketEvents::Poll()
 {
-    std::vector<pollfd> vSet = PollSet(WatchedSockets(false));
+    std::vector<pollfd> vSet = PollSet(false);
     if(vSet.empty() || poll(vSet.data(), vSet.size(), 0) <= 0)
         return;
     std::vector<int> vClosed;
     for(size_t i = 0; i < vSet.size(); i++)
-    {
-        CWatch& Watch = m_vWatches[i];
-        const uint32_t uiEvent = EventOf(Watch, vSet[i].revents);
-        if(uiEvent == FD_ACCEPT)
-            Watch.m_bAcceptTaken = false;
-        if(vSet[i].revents & POLLNVAL)
-            vClosed.push_back(Watch.m_Socket); // closed behind our back: nothing more will come of it
-        else if(uiEvent & Watch.m_uiEvents)
-            m_Pending.push_back({Watch.m_Socket, uiEvent});
-        if(uiEvent == FD_CLOSE)
-            vClosed.push_back(Watch.m_Socket);
-    }
+        Queue(m_vWatches[i], vSet[i].revents, vClosed);
     // A close is reported once; what its handler does with the socket is its own affair.
     for(int Socket : vClosed)
         m_vWatches.erase(std::remove_if(m_vWatches.begin(), m_vWatches.end(),
                                         [Socket](const CWatch& Watch) { return Watch.m_Socket == Socket; }),
                          m_vWatches.end());
+}
+
+// Room to write goes first, so that what waited to go out leaves before the answers to what is read.
+void CSocketEvents::Queue(CWatch& Watch, short sReady, std::vector<int>& vClosed)
+{
+    if(sReady & POLLNVAL)
+    {
+        vClosed.push_back(Watch.m_Socket); // closed behind our back: nothing more will come of it
+        return;
+    }
+    const uint32_t uiEvent = EventOf(Watch, sReady);
+    if(Watch.m_bWantWrite && (sReady & POLLOUT) && uiEvent != FD_CLOSE)
+        m_Pending.push_back({Watch.m_Socket, FD_WRITE});
+    if(uiEvent == FD_ACCEPT)
+        Watch.m_bAcceptTaken = false;
+    if(uiEvent & Watch.m_uiEvents)
+        m_Pending.push_back({Watch.m_Socket, uiEvent});
+    if(uiEvent == FD_CLOSE)
+        vClosed.push_back(Watch.m_Socket);
 }
 
 bool CSocketEvents::HandleOneEvent(const CHandler& fnHandler)
@@ -149,6 +175,6 @@ bool CSocketEvents::HandleOneEvent(const CHandler& fnHandler)
 
 void CSocketEvents::Wait(uint32_t uiMs) const
 {
-    std::vector<pollfd> vSet = PollSet(WatchedSockets(true));
+    std::vector<pollfd> vSet = PollSet(true);
     poll(vSet.data(), vSet.size(), static_cast<int>(uiMs));
 }

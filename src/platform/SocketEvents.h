@@ -18,8 +18,9 @@ constexpr uint32_t FD_CLOSE = 32;
 //
 // Read and close are level-triggered: a socket with unread data is reported again at the next poll, and a
 // closed peer gives FD_CLOSE once its data has been read, after which the socket is no longer watched. A
-// listener reports FD_ACCEPT while connections wait. FD_WRITE and FD_CONNECT are never reported: sends are
-// made at once, and connecting blocks before a socket is selected.
+// listener reports FD_ACCEPT while connections wait. FD_WRITE comes only for a socket whose sender has asked
+// for it, having bytes that found no room; FD_CONNECT never comes, since connecting blocks before a socket is
+// selected.
 class CSocketEvents
 {
 public:
@@ -31,6 +32,10 @@ public:
     void Inherit(int Listener, int Accepted);
     // The socket is about to be closed: it is no longer watched, and its pairs not yet handed out go too.
     void Forget(int Socket);
+    // A paused socket is not watched for reading (its close still comes); a socket that wants to write is
+    // told by FD_WRITE when there is room, whatever events were selected.
+    void PauseReading(int Socket, bool bPaused);
+    void WantWrite(int Socket, bool bWant);
     // Hands one pending pair to the handler and returns true, or returns false when none is pending.
     bool HandleOneEvent(const CHandler& fnHandler);
     // Blocks until a watched socket is ready or the time is up: the sleep of a loop that paces its frames.
@@ -44,6 +49,8 @@ private:
         uint32_t m_uiEvents;
         bool m_bListening;
         bool m_bAcceptTaken; // the last FD_ACCEPT led to an accept; a refused one does not wake Wait
+        bool m_bPaused;
+        bool m_bWantWrite;
     };
     struct CPair
     {
@@ -52,7 +59,9 @@ private:
     };
 
     void Poll();
-    std::vector<int> WatchedSockets(bool bForWait) const;
+    void Queue(CWatch& Watch, short sReady, std::vector<int>& vClosed);
+    std::vector<struct pollfd> PollSet(bool bForWait) const;
+    CWatch* Find(int Socket);
     uint32_t EventOf(const CWatch& Watch, short sReady) const;
 
     std::vector<CWatch> m_vWatches;
