@@ -209,6 +209,10 @@ bool CSocket::Accept(int& Socket)
         Log("error: accept() failed");
         return false;
     }
+    // The system would let the buffer of a peer that stops reading grow to megabytes; held to a fixed size, it
+    // keeps what one peer can cost as bounded as the game's own queue for it.
+    const int iSendBuffer = static_cast<int>(SEND_QUEUE_LIMIT / 2);
+    setsockopt(Socket, SOL_SOCKET, SO_SNDBUF, &iSendBuffer, sizeof(iSendBuffer));
     const uint8_t* pBytes = reinterpret_cast<const uint8_t*>(&Address.sin_addr.s_addr);
     Log("client from %d.%d.%d.%d now succesfully connected to us", pBytes[0], pBytes[1], pBytes[2], pBytes[3]);
     if(m_pEvents)

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <memory>
@@ -13,6 +14,11 @@ namespace
 std::vector<uint32_t> Ids(std::initializer_list<uint32_t> Ids)
 {
     return Ids;
+}
+
+std::vector<uint8_t> NumberedLine(uint32_t uiLine)
+{
+    return WireText("line " + std::to_string(uiLine) + std::string(60, '.'));
 }
 } // namespace
 
@@ -194,6 +200,58 @@ TEST(NetworkLink, SplitFramesArriveWholeAndAnOversizedFrameCutsOffOnlyItsSender)
     ASSERT_TRUE(Speaker.Send(WireFrame(NET_LOBBY_CHAT, uiSpeaker, 2, WireText("2: still here"))));
     ASSERT_TRUE(PumpUntil({&Host}, [&] { return Listener.ReadUntil(NET_LOBBY_CHAT, Relayed, 0); }));
     EXPECT_EQ(Relayed.m_vPayload, WireText("2: still here"));
+}
+
+// A client that stops reading never holds the host up: what it has no room for waits in its own queue
+// until that passes its limit, then it is cut off and leaves like anyone else, while a client that reads
+// gets every line, whole and in order.
+TEST(NetworkLink, AClientThatStopsReadingIsCutOffAndTheOthersHearEveryLineInOrder)
+{
+    CLogRecorder Log;
+    CPeer Host;
+    ASSERT_TRUE(StartHost(Host));
+    CWireClient Speaker, Listener, Sleeper;
+    uint32_t uiSpeaker = 0, uiListener = 0, uiSleeper = 0;
+    ASSERT_TRUE(JoinWire(Host, Sleeper, uiSleeper));
+    const int iSmall = 4096;
+    setsockopt(Sleeper.m_Socket, SOL_SOCKET, SO_RCVBUF, &iSmall, sizeof(iSmall));
+    ASSERT_TRUE(JoinWire(Host, Speaker, uiSpeaker));
+    ASSERT_TRUE(JoinWire(Host, Listener, uiListener));
+
+    const uint32_t uiLines = 6000; // half a megabyte of chat: several times what may wait for the sleeper
+    uint32_t uiHeard = 0;
+    bool bInOrder = true;
+    const auto fnHear = [&]
+    {
+        CWireFrame Frame;
+        while(Speaker.Read(Frame, 0)) // its own lines come back to it too
+        {
+        }
+        while(Listener.Read(Frame, 0))
+        {
+            if(Frame.m_uiType != NET_LOBBY_CHAT)
+                continue;
+            bInOrder = bInOrder && Frame.m_vPayload == NumberedLine(uiHeard);
+            uiHeard++;
+        }
+        return false;
+    };
+    for(uint32_t uiSent = 0; uiSent < uiLines; uiSent += 100)
+    {
+        std::vector<uint8_t> vBatch;
+        for(uint32_t i = uiSent; i < uiSent + 100; i++)
+        {
+            const std::vector<uint8_t> vFrame = WireFrame(NET_LOBBY_CHAT, uiSpeaker, 1, NumberedLine(i));
+            vBatch.insert(vBatch.end(), vFrame.begin(), vFrame.end());
+        }
+        ASSERT_TRUE(Speaker.Send(vBatch));
+        PumpUntil({&Host}, [&] { return fnHear() || uiHeard >= uiSent + 100; }, 3000);
+        ASSERT_EQ(uiHeard, uiSent + 100);
+    }
+    EXPECT_TRUE(bInOrder);
+    EXPECT_EQ(Log.Count("wait for a peer that does not read"), 1u);
+    ASSERT_TRUE(PumpUntil({&Host}, [&] { return Host.m_Net.m_nPlayers == 3; }));
+    EXPECT_EQ(ListedIds(Host.m_Net), std::vector<uint32_t>({0, uiSpeaker, uiListener}));
 }
 
 // Real bots: a host and three clients join in turn, the last says hello, the second leaves; every bot that

@@ -74,6 +74,48 @@ TEST_F(ProtocolOnHostOfTwo, AScoreUpdateComesBackToEveryClientAsTheWholeTable)
     EXPECT_EQ(std::vector<uint8_t>(Table.m_vPayload.begin(), Table.m_vPayload.begin() + 64), vExpected);
 }
 
+// A client speaks only for itself: frames in another's name, messages only the host sends, and a slot or a
+// row that is not its own are dropped with a line each and reach nobody. What it says for itself goes through.
+TEST_F(ProtocolOnHostOfTwo, AClientSpeaksOnlyForItselfAndNothingElseReachesAnyone)
+{
+    std::vector<uint8_t> vTable(PLAYER_TABLE_SIZE, 0);
+    vTable[0] = 1;
+    const std::vector<std::vector<uint8_t>> vForged = {
+        WireFrame(NET_LOBBY_CHAT, m_uiB, 1, WireText("3: I am B")),
+        WireFrame(NET_PU_HALT, m_uiB, 0, MARK_PAYLOAD),
+        WireFrame(NET_ASSIGN_ID, m_uiA, 0, WireU32(9)),
+        WireFrame(NET_PLAYER_JOINED, m_uiA, 0, WireU32(9)),
+        WireFrame(NET_PLAYER_LEFT, m_uiA, 0, WireU32(m_uiB)),
+        WireFrame(NET_PLAYER_TABLE, m_uiA, 0, vTable),
+        WireFrame(NET_START_GAME, m_uiA, 0, MARK_PAYLOAD),
+        WireFrame(NET_SCORE_TABLE, m_uiA, 0, std::vector<uint8_t>(SCORE_TABLE_SIZE, 1)),
+        WireFrame(NET_PLAYER_OUT, m_uiA, 2, MARK_PAYLOAD),
+        WireFrame(NET_SCORE_UPDATE, m_uiA, 0, ScoreRow(3, m_uiB, 999, 0.5f)),
+        WireFrame(NET_SCORE_UPDATE, m_uiA, 0, ScoreRow(3, m_uiA, 999, 0.5f)),
+        WireFrame(NET_SCORE_UPDATE, m_uiA, 0, ScoreRow(2, m_uiB, 999, 0.5f)),
+    };
+    const size_t Before = m_Log.Lines().size();
+    for(const std::vector<uint8_t>& vFrame : vForged)
+        ASSERT_TRUE(m_A.Send(vFrame));
+    ASSERT_TRUE(Pump([&] { return m_Log.Lines().size() - Before >= vForged.size(); }));
+    PumpAWhile();
+    EXPECT_EQ(m_Log.Lines().size() - Before, vForged.size());
+    const CNetwork& Host = m_Game.m_Network;
+    EXPECT_EQ(ListedIds(Host), std::vector<uint32_t>({0, m_uiA, m_uiB}));
+    EXPECT_FALSE(Host.m_Players[2].m_bFinished);
+    EXPECT_EQ(Host.m_Scores[2].m_nScore, 0u);
+    EXPECT_EQ(Host.m_nLobbyLines, 0u);
+    EXPECT_FALSE(m_Game.m_Powerups.m_bHaltOn);
+    CWireFrame Frame;
+    EXPECT_FALSE(m_B.Read(Frame, 100)) << "type " << Frame.m_uiType << " reached another client";
+
+    ASSERT_TRUE(m_A.Send(WireFrame(NET_LOBBY_CHAT, m_uiA, 1, WireText("2: I am A"))));
+    ASSERT_TRUE(m_A.Send(WireFrame(NET_PLAYER_OUT, m_uiA, 1, MARK_PAYLOAD)));
+    ASSERT_TRUE(Pump([&] { return m_B.ReadUntil(NET_LOBBY_CHAT, Frame, 0); }));
+    EXPECT_EQ(Frame.m_vPayload, WireText("2: I am A"));
+    EXPECT_TRUE(Host.m_Players[1].m_bFinished);
+}
+
 // A powerup from one client to another goes through the host unchanged: the target sees the first
 // sender's number, and a TAKE sends the oldest letter back the same way.
 TEST_F(ProtocolOnClient, PowerupsBetweenClientsTravelThroughTheHostUnchanged)
