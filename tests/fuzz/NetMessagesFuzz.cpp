@@ -29,13 +29,14 @@ constexpr uint32_t MAX_BATCH = 8;
 constexpr uint32_t MAX_STEPS = 4096;
 constexpr int SEND_BUFFER_BYTES = 1 << 20;
 
-// A send that found the socket buffer full leaves half a frame behind; the streams of that run are not read.
-bool g_bSendBlocked = false;
+// A connection cut off for not reading may have half a frame on its way: the streams of that run are not read
+// to their end.
+bool g_bCutOff = false;
 
 void WatchLog(const char* pLine)
 {
-    if(std::strstr(pLine, "WSAEWOULDBLOCK"))
-        g_bSendBlocked = true;
+    if(std::strstr(pLine, "cut off"))
+        g_bCutOff = true;
 }
 
 // Reads input bytes front to back; past the end every read gives 0.
@@ -86,6 +87,7 @@ uint32_t NaturalSize(uint32_t uiType, uint8_t ucCode)
 struct CPeer
 {
     int m_Fd = -1;
+    int m_GameEnd = -1;
     uint32_t m_nId = 0;       // the client's id; unused for the host's end
     bool m_bHostSends = true; // the game under test is the host, this end is one of its clients
     std::vector<uint8_t> m_vStream;
@@ -182,6 +184,17 @@ void CheckState(const CGame& Game, const CSocket* pSocket, uint8_t ucClients)
     }
 }
 
+// A frame as a peer's connection delivers it, or as the host queues its own (no connection).
+bool Queue(CSocket& Socket, const CNetMessage& Message, int Connection, uint32_t uiSource)
+{
+    if(Connection == -1)
+        return Socket.PutMessage(Message);
+    std::vector<uint8_t> vFrame(NET_HEADER_SIZE + Message.m_nSize);
+    WriteHeader(vFrame.data(), Message);
+    std::copy(Message.m_pData, Message.m_pData + Message.m_nSize, vFrame.begin() + NET_HEADER_SIZE);
+    return Socket.Absorb(Connection, vFrame.data(), static_cast<uint32_t>(vFrame.size()), uiSource);
+}
+
 // A line typed into one of the editors, cut to what the editor lets a player type.
 void TypeLine(CInput& Input, char* pField, size_t Limit)
 {
@@ -195,15 +208,16 @@ void TypeLine(CInput& Input, char* pField, size_t Limit)
 // The first byte sets up the game: bit 0 a client rather than the host, bit 1 the link wired to socket
 // pairs, bits 2 and 3 how many clients the host has; a client's id follows. Then steps, each led by one
 // byte, whose top three bits say what it is: 0 to 3 a frame queued as if a peer had sent it (mostly of the
-// 32 types, sometimes beyond them), 5 a tick of the clock, 6 something the player does, 4 and 7 a run of the
-// message loop. The loop also runs by itself once a few frames wait.
+// 32 types, sometimes beyond them; on a host with clients a byte then names the connection it came on), 5 a
+// tick of the clock, 6 something the player does, 4 and 7 a run of the message loop. The loop also runs by
+// itself once a few frames wait.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
 {
     SetLogSink(WatchLog);
     SetErrorHandler([](const char*) {});
     SetManualClock(0);
     std::srand(1);
-    g_bSendBlocked = false;
+    g_bCutOff = false;
 
     CInput Input(pData, Size);
     const uint8_t ucSetup = Input.Byte();
@@ -244,7 +258,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
         const uint32_t uiWanted = bHost ? (ucSetup >> 2) & 3 : 1;
         for(uint32_t i = 0; i < uiWanted && i < MAX_PEERS; i++)
         {
-            int GameEnd;
+            int& GameEnd = aPeers[i].m_GameEnd;
             if(!MakeLink(GameEnd, aPeers[i].m_Fd))
                 break;
             aPeers[i].m_bHostSends = bHost;
@@ -266,15 +280,22 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
     }
     const uint8_t ucClients = Network.m_nClients;
 
+    // What found no room in a socket goes out as the peer reads, as the events service would have it go.
+    const auto Deliver = [&] {
+        for(uint32_t i = 0; i < uiPeers; i++)
+        {
+            for(int iRound = 0; iRound < 4; iRound++)
+            {
+                pSocket->Flush(aPeers[i].m_GameEnd);
+                aPeers[i].Read();
+            }
+            aPeers[i].Check();
+        }
+    };
     const auto RunAndCheck = [&](auto&& Step) {
         Step();
         CheckState(Game, pSocket, ucClients);
-        for(uint32_t i = 0; i < uiPeers; i++)
-        {
-            aPeers[i].Read();
-            if(!g_bSendBlocked)
-                aPeers[i].Check();
-        }
+        Deliver();
     };
 
     std::vector<uint8_t> vPayload;
@@ -288,6 +309,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
         {
             CNetMessage Message;
             Message.m_nType = ucStep & 31;
+            // On a host with clients, which connection the frame came on: 0 the host's own queue.
+            const uint32_t uiSource = bHost && uiPeers > 0 ? Input.Byte() % (uiPeers + 1) : 0;
             if(uiKind == 3 && (ucStep & 16))
                 Message.m_nType = NUM_MESSAGE_TYPES + (ucStep & 15);
             else if(uiKind == 3 && (ucStep & 8))
@@ -302,7 +325,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
             if(bNatural && g_aMessages[Message.m_nType].m_ePayload == PAYLOAD_TEXT)
                 vPayload.back() = 0;
             Message.m_pData = vPayload.data();
-            if(!pSocket->PutMessage(Message))
+            if(!Queue(*pSocket, Message, uiSource == 0 ? -1 : aPeers[uiSource - 1].m_GameEnd, uiSource))
                 __builtin_trap();
             if(++uiQueued < MAX_BATCH)
                 continue;
@@ -360,7 +383,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
         __builtin_trap();
     for(uint32_t i = 0; i < uiPeers; i++)
     {
-        if(!g_bSendBlocked && !aPeers[i].m_vStream.empty())
+        if(!g_bCutOff && !aPeers[i].m_vStream.empty())
             __builtin_trap();
         close(aPeers[i].m_Fd);
     }

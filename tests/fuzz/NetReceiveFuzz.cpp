@@ -29,11 +29,12 @@ struct CExpectedFrame
     uint32_t m_nFrom;
     uint32_t m_nTo;
     std::vector<uint8_t> m_vPayload;
+    uint32_t m_nSource; // the connection's index + 1, or 0 for the host's own
 };
 
-// What the socket should do with the bytes: one stream per connection, a frame taken once more than a header
-// waits and the whole frame is there, and a header that announces more than any game sends throws the
-// stream away, together with whatever else came in the same read.
+// What the socket should do with the bytes: one stream per connection, its frames marked with it, a frame
+// taken once more than a header waits and the whole frame is there, and a header that announces more than
+// any game sends throws the stream away, together with whatever else came in the same read.
 class CReferenceParser
 {
 public:
@@ -53,7 +54,7 @@ public:
             }
             if(vStream.size() - Pos < NET_HEADER_SIZE + uiSize)
                 break;
-            Queue(vStream.data() + Pos, uiSize);
+            Queue(vStream.data() + Pos, uiSize, static_cast<uint32_t>(iConnection) + 1);
             Pos += NET_HEADER_SIZE + uiSize;
         }
         vStream.erase(vStream.begin(), vStream.begin() + static_cast<std::ptrdiff_t>(Pos));
@@ -63,11 +64,11 @@ public:
     // A closed connection forgets what it had half-received.
     void Forget(int iConnection) { m_avStreams[iConnection].clear(); }
 
-    void Queue(const uint8_t* pFrame, uint32_t uiSize)
+    void Queue(const uint8_t* pFrame, uint32_t uiSize, uint32_t uiSource)
     {
         const uint8_t* pPayload = pFrame + NET_HEADER_SIZE;
         m_Expected.push_back(CExpectedFrame{uiSize, ReadU32(pFrame + 4), ReadU32(pFrame + 8), ReadU32(pFrame + 12),
-                                            std::vector<uint8_t>(pPayload, pPayload + uiSize)});
+                                            std::vector<uint8_t>(pPayload, pPayload + uiSize), uiSource});
     }
 
     std::vector<uint8_t> m_avStreams[CONNECTIONS];
@@ -112,14 +113,15 @@ uint32_t Drain(CSocket& Socket, CReferenceParser& Reference, uint8_t* pPayload, 
         Message.m_pData = pPayload;
         if(Socket.HasMessage() == Reference.m_Expected.empty())
             __builtin_trap();
-        if(!Socket.GetMessage(Message))
+        uint32_t uiSource = UINT32_MAX;
+        if(!Socket.GetMessage(Message, &uiSource))
             break;
         // The reader's buffer is where the payload goes, never something the socket picks.
         if(Message.m_pData != pPayload || Message.m_nSize > NET_MAX_PAYLOAD)
             __builtin_trap();
         const CExpectedFrame& Expected = Reference.m_Expected.front();
         if(Message.m_nSize != Expected.m_nSize || Message.m_nType != Expected.m_nType ||
-           Message.m_nFrom != Expected.m_nFrom || Message.m_nTo != Expected.m_nTo ||
+           Message.m_nFrom != Expected.m_nFrom || Message.m_nTo != Expected.m_nTo || uiSource != Expected.m_nSource ||
            (Message.m_nSize > 0 && std::memcmp(pPayload, Expected.m_vPayload.data(), Message.m_nSize) != 0))
             __builtin_trap();
         Reference.m_Expected.pop_front();
@@ -177,7 +179,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
             if(bRetireCut && abCut[iIndex])
                 break;
             const bool bExpected = Reference.Feed(iIndex, pPiece, Count);
-            if(Socket.Absorb(iConnection, pPiece, static_cast<uint32_t>(Count)) != bExpected)
+            const uint32_t uiSource = static_cast<uint32_t>(iIndex) + 1;
+            if(Socket.Absorb(iConnection, pPiece, static_cast<uint32_t>(Count), uiSource) != bExpected)
                 __builtin_trap();
             abCut[iIndex] = abCut[iIndex] || !bExpected;
             FedBytes += Count;
@@ -208,7 +211,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
                 WriteHeader(aHeader, Message);
                 std::vector<uint8_t> vFrame(aHeader, aHeader + NET_HEADER_SIZE);
                 vFrame.insert(vFrame.end(), vBody.begin(), vBody.end());
-                Reference.Queue(vFrame.data(), uiSize);
+                Reference.Queue(vFrame.data(), uiSize, FROM_HOST);
                 FedBytes += NET_HEADER_SIZE + uiSize + 1;
             }
             break;

@@ -50,11 +50,13 @@ def receive_seeds():
 
 
 # The messages target: a setup byte (bit 0 a client, bit 1 wired to socket pairs, bits 2-3 the host's client
-# count), a client's id, then steps. A frame step is its type byte (0-31), a sender id, a target id, a size code
-# (below 0xC0 the type's own size; for a text 1 + code % 80 bytes) and the payload. 0x80 runs the message
-# loop, 0xA0 a tick of 8 times the next byte in milliseconds, 0xC0 + n a player's action n.
-def msg(msg_type, sender, target, payload, size_code=0):
-    return bytes([msg_type, sender, target, size_code]) + payload
+# count), a client's id, then steps. A frame step is its type byte (0-31), on a wired host the connection it
+# came on (0 the host's own, n the n-th client), a sender id, a target id, a size code (below 0xC0 the type's
+# own size; for a text 1 + code % 80 bytes) and the payload. 0x80 runs the message loop, 0xA0 a tick of 8
+# times the next byte in milliseconds, 0xC0 + n a player's action n.
+def msg(msg_type, sender, target, payload, size_code=0, source=None):
+    via = bytes([source]) if source is not None else b""
+    return bytes([msg_type]) + via + bytes([sender, target, size_code]) + payload
 
 
 def text(line):
@@ -65,8 +67,9 @@ def text(line):
 def messages_seeds():
     seeds = {}
     n, chat = text("2: hello")
-    seeds["host-join-chat"] = (bytes([0x02 | (2 << 2)]) + msg(1, 0, 0, struct.pack("<I", 1)) +
-                               msg(1, 0, 0, struct.pack("<I", 2)) + msg(3, 2, 1, chat, n) + bytes([0x80]))
+    seeds["host-join-chat"] = (bytes([0x02 | (2 << 2)]) + msg(1, 0, 0, struct.pack("<I", 1), source=0) +
+                               msg(1, 0, 0, struct.pack("<I", 2), source=0) + msg(3, 2, 1, chat, n, source=2) +
+                               bytes([0x80]))
     table = struct.pack("<I", 3) + b"".join(struct.pack("<IBBxx", i, 1, 0) for i in range(3)) + b"\0" * 40
     seeds["client-start"] = (bytes([0x01, 2]) + msg(0, 0, 0, struct.pack("<I", 2)) + msg(6, 0, 0, table) +
                              msg(7, 0, 1, b"0") + bytes([0x80, 0xA0, 200]))
@@ -75,9 +78,11 @@ def messages_seeds():
     seeds["client-powerups"] = (bytes([0x03, 1]) + msg(10, 0, 0, rows + b"\0" * 120) + msg(18, 0, 1, b"D\0") +
                                 msg(17, 0, 1, b"0") + msg(4, 0, 0, chat, n) + bytes([0xA0, 150, 0xC4, 0]))
     row = struct.pack("<IIIfB3x", 2, 1, 900, 0.75, 0)
-    seeds["host-match"] = (bytes([0x02 | (3 << 2)]) + msg(1, 0, 0, struct.pack("<I", 1)) +
-                           msg(1, 0, 0, struct.pack("<I", 2)) + msg(11, 1, 0, row) + msg(5, 1, 1, b"0") +
-                           msg(12, 2, 0, b"0") + msg(2, 0, 0, struct.pack("<I", 2)) + msg(13, 1, 0, b"0") +
+    seeds["host-match"] = (bytes([0x02 | (3 << 2)]) + msg(1, 0, 0, struct.pack("<I", 1), source=0) +
+                           msg(1, 0, 0, struct.pack("<I", 2), source=0) + msg(11, 1, 0, row, source=1) +
+                           msg(5, 1, 1, b"0", source=1) + msg(12, 2, 0, b"0", source=2) +
+                           msg(2, 0, 0, struct.pack("<I", 2), source=0) + msg(13, 1, 0, b"0", source=1) +
+                           msg(5, 2, 1, b"0", source=2) + msg(3, 1, 1, b"2: not me\0", 9, source=2) +
                            bytes([0x80, 0xC0, 0xC1, 0xC3, 3]) + b"abc")
     return seeds
 
