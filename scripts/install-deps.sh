@@ -11,6 +11,7 @@ PACKAGES=(
   lame                                           # encodes the generated music
   xvfb xauth xdotool                             # the real game under a virtual display, driven by synthetic input
   iproute2                                       # network tests run on a loopback of their own
+  python3                                        # the soak reads the bots' reports
   libcap2-bin                                    # lets the built game take port 666 without being root
 )
 

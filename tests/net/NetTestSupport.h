@@ -103,6 +103,7 @@ public:
     int Stop(int iTimeoutMs);
     std::string Output() const; // what it printed on standard output
     std::string Errors() const; // and on standard error
+    int Pid() const { return m_Pid; }
 
 private:
     int m_Pid = -1;

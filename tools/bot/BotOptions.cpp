@@ -3,20 +3,23 @@
 #include "common/NumberParse.h"
 
 const char* const BOT_USAGE = "trelvane-bot (--host | --join ADDRESS) [--port P] [--seed N] [--track N] "
-                              "[--start-when N] [--matches N] [--chat TEXT] [--idle] [--leave-after S] "
-                              "[--quit-after S]";
+                              "[--start-when N] [--start-until S] [--matches N] [--chat TEXT] [--idle] "
+                              "[--leave-after S] [--quit-after S]";
 
 const char* const BOT_HELP =
     "usage: trelvane-bot (--host | --join ADDRESS) [--port P] [--seed N] [--track N] [--start-when N]\n"
-    "                    [--matches N] [--chat TEXT] [--idle] [--leave-after S] [--quit-after S]\n"
+    "                    [--start-until S] [--matches N] [--chat TEXT] [--idle] [--leave-after S]\n"
+    "                    [--quit-after S]\n"
     "A network player without a window: the game's own rules and link, 10 ms frames in real time, levels\n"
-    "played by the simulator's autoplayer. At the end it prints one line of JSON.\n"
+    "played by the simulator's autoplayer. At the end it prints one line of JSON, and the same line at\n"
+    "once on SIGUSR1 while it runs on.\n"
     "  --host            open a game and wait for players\n"
     "  --join ADDRESS    join the game hosted at ADDRESS\n"
     "  --port P          TCP port (default 666, the game's own)\n"
     "  --seed N          seed of the random numbers (default: the clock)\n"
     "  --track N         host: the index in the track list of the level to start (default 0)\n"
     "  --start-when N    host: start a match once N players are listed, and again after each match\n"
+    "  --start-until S   host: start no match after S seconds (default: no limit)\n"
     "  --matches N       end after N matches played and their results seen (default 1)\n"
     "  --chat TEXT       send TEXT as a lobby line once joined\n"
     "  --idle            never shoot or spend a powerup\n"
@@ -60,6 +63,8 @@ bool StoreValue(const std::string& Name, const std::string& Value, CBotOptions& 
         return ParseU32(Value, 1, 7, Options.m_uiStartWhen);
     if(Name == "--matches")
         return ParseU32(Value, 1, UINT32_MAX, Options.m_uiMatches);
+    if(Name == "--start-until")
+        return ReadSeconds(Value, Options.m_uiStartUntilMs);
     if(Name == "--leave-after")
         return ReadSeconds(Value, Options.m_uiLeaveAfterMs);
     return ReadSeconds(Value, Options.m_uiQuitAfterMs);
@@ -67,8 +72,8 @@ bool StoreValue(const std::string& Name, const std::string& Value, CBotOptions& 
 
 bool TakesValue(const std::string& Name)
 {
-    for(const char* pName : {"--join", "--port", "--seed", "--track", "--start-when", "--matches", "--chat",
-                             "--leave-after", "--quit-after"})
+    for(const char* pName : {"--join", "--port", "--seed", "--track", "--start-when", "--start-until", "--matches",
+                             "--chat", "--leave-after", "--quit-after"})
     {
         if(Name == pName)
             return true;
@@ -106,7 +111,7 @@ bool ParseBotOptions(int iArgCount, const char* const* ppArgs, CBotOptions& Opti
         return true;
     if(Options.m_bHost == !Options.m_Address.empty())
         return Reject(Error, "give either --host or --join ADDRESS");
-    if(!Options.m_bHost && Options.m_uiStartWhen > 0)
+    if(!Options.m_bHost && (Options.m_uiStartWhen > 0 || Options.m_uiStartUntilMs > 0))
         return Reject(Error, "only a host starts matches");
     return true;
 }

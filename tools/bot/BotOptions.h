@@ -11,7 +11,8 @@ struct CBotOptions
     uint32_t m_uiSeed = 0;
     bool m_bSeedGiven = false;
     uint32_t m_uiTrack = 0;
-    uint32_t m_uiStartWhen = 0; // 0: the host never starts a match
+    uint32_t m_uiStartWhen = 0;    // 0: the host never starts a match
+    uint32_t m_uiStartUntilMs = 0; // 0: the host starts matches for as long as it runs
     uint32_t m_uiMatches = 1;
     std::string m_Chat;
     bool m_bChat = false;

@@ -101,12 +101,21 @@ void CBotPlayer::Chat()
     m_bChatSent = true;
 }
 
+// A host starts once enough players are listed in the lobby, as long as matches are left to play and the
+// time for starting them has not run out.
+bool CBotPlayer::MayStartMatch() const
+{
+    const bool bTimeLeft = m_Options.m_uiStartUntilMs == 0 || Elapsed() < m_Options.m_uiStartUntilMs;
+    return m_Options.m_bHost && m_Options.m_uiStartWhen > 0 && m_uiMatchesStarted < m_Options.m_uiMatches &&
+           bTimeLeft && m_Game.m_Graphics.m_nScreenState == SCREEN_LOBBY &&
+           m_Game.m_Network.m_nPlayers >= m_Options.m_uiStartWhen;
+}
+
 // The host's Start button: the click, the message, and the same level on this machine.
 void CBotPlayer::StartWhenReady()
 {
     CNetwork& Network = m_Game.m_Network;
-    if(!m_Options.m_bHost || m_Options.m_uiStartWhen == 0 || m_uiMatchesStarted >= m_Options.m_uiMatches ||
-       m_Game.m_Graphics.m_nScreenState != SCREEN_LOBBY || Network.m_nPlayers < m_Options.m_uiStartWhen)
+    if(!MayStartMatch())
         return;
     const std::vector<std::string>& vFiles = m_Game.m_Tracks.m_vFiles;
     if(m_Options.m_uiTrack >= vFiles.size())
@@ -180,9 +189,17 @@ std::vector<CScoreRow> CBotPlayer::ListedRows() const
     return std::vector<CScoreRow>(Network.m_Scores, Network.m_Scores + std::min<uint32_t>(Network.m_nPlayers, MAX_PLAYERS));
 }
 
+// Playing or looking at the results: the lobby is the only screen on which no match is on.
+bool CBotPlayer::IsMatchOn() const
+{
+    const int iScreen = m_Game.m_Graphics.m_nScreenState;
+    return iScreen == SCREEN_PLAY || iScreen == SCREEN_RESULTS;
+}
+
 void CBotPlayer::AfterFrame()
 {
     const uint32_t uiNow = timeGetTime();
+    m_FrameRate.OnFrame(uiNow);
     if(m_Game.m_Graphics.m_nScreenState == SCREEN_RESULTS && !m_bOnResults)
     {
         m_bOnResults = true;

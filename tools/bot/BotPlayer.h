@@ -1,5 +1,6 @@
 #pragma once
 #include "bot/BotOptions.h"
+#include "bot/FrameRate.h"
 #include "net/Network.h"
 #include "sim/Autoplay.h"
 #include "sim/RunCount.h"
@@ -33,7 +34,7 @@ public:
     void BeforeFrame();
     void AfterFrame();
     bool IsDone() const { return m_bDone; }
-    // The one line of JSON that ends a run.
+    // The one line of JSON that ends a run, or tells how it stands when asked in its course.
     void WriteReport(std::ostream& Stream, uint64_t ulLogLines) const;
 
     void OnLobbyLine(const char* pLine) override { m_vLobbyLines.emplace_back(pLine); }
@@ -44,6 +45,8 @@ public:
 private:
     uint32_t Elapsed() const;
     bool HasJoined() const;
+    bool MayStartMatch() const;
+    bool IsMatchOn() const;
     void Chat();
     void StartWhenReady();
     void Play();
@@ -58,6 +61,7 @@ private:
     CGame& m_Game;
     CAutoplay m_Autoplay;
     CRunCount m_Count;
+    CFrameRate m_FrameRate;
     uint32_t m_uiStartMs;
     bool m_bTableSeen = false;
     bool m_bChatSent = false;

@@ -2,6 +2,7 @@
 
 #include "app/Game.h"
 #include "common/Json.h"
+#include "platform/Clock.h"
 
 namespace
 {
@@ -13,11 +14,16 @@ void WriteRow(std::ostream& Stream, const CScoreRow& Row)
     Stream << ",\"finished\":" << (Row.m_bFinished ? "true" : "false") << "}";
 }
 
+void WriteRows(std::ostream& Stream, const std::vector<CScoreRow>& vRows)
+{
+    WriteJsonArray(Stream, vRows, [&Stream](const CScoreRow& Row) { WriteRow(Stream, Row); });
+}
+
 void WriteMatch(std::ostream& Stream, const CMatchRecord& Match)
 {
     Stream << "{\"track\":" << Match.m_uiTrack << ",\"outcome\":\"" << (Match.m_bWon ? "won" : "lost")
            << "\",\"score\":" << Match.m_uiScore << ",\"rows\":";
-    WriteJsonArray(Stream, Match.m_vRows, [&Stream](const CScoreRow& Row) { WriteRow(Stream, Row); });
+    WriteRows(Stream, Match.m_vRows);
     Stream << "}";
 }
 
@@ -43,11 +49,16 @@ void CBotPlayer::WriteReport(std::ostream& Stream, uint64_t ulLogLines) const
     Stream << "{\"my_id\":" << Network.m_nMyId
            << ",\"number\":" << (bHasId ? Network.GetPlayerNumber(Network.m_nMyId) : 0) << ",\"players\":";
     WriteJsonArray(Stream, vListed, [&Stream](const CPlayerSlot& Slot) { WriteSlot(Stream, Slot); });
+    Stream << ",\"rows\":";
+    WriteRows(Stream, ListedRows());
+    Stream << ",\"in_match\":" << (IsMatchOn() ? "true" : "false");
     Stream << ",\"lobby_lines\":";
     WriteTexts(Stream, m_vLobbyLines);
     Stream << ",\"matches\":";
     WriteJsonArray(Stream, m_vMatches, [&Stream](const CMatchRecord& Match) { WriteMatch(Stream, Match); });
     Stream << ",\"powerups_sent\":" << m_uiPowerupsSent << ",\"notices\":";
     WriteTexts(Stream, m_vNotices);
+    Stream << ",\"frames\":" << m_FrameRate.Frames()
+           << ",\"slowest_second\":" << m_FrameRate.SlowestSecond(timeGetTime());
     Stream << ",\"log_lines\":" << ulLogLines << "}\n";
 }
