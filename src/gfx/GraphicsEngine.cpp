@@ -152,8 +152,13 @@ void CGraphicsEngine::RenderPlayFrame()
     if(Particles.m_bActive)
     {
         Particles.Update(static_cast<float>(uiDelta) * 0.001f);
+        // Once every flare is out the list is emptied: bursts would otherwise pile up, dead, for as long as
+        // the game runs, and every later burst would walk them all.
         if(Particles.IsDead())
+        {
+            Particles.RemoveDeadParticles();
             Particles.m_bActive = false;
+        }
     }
     m_pDevice->Clear(PLAY_CLEAR_COLOUR, 1.0f);
     m_pDevice->BeginScene();

@@ -102,3 +102,20 @@ TEST_F(GraphicsEngine, ReleasingTwiceLetsGoOfEverythingOnceAndStopsTheFrames)
     m_Engine.RenderMenuFrame();
     EXPECT_TRUE(m_Device.m_vLog.empty());
 }
+
+// Flares live two seconds; once the last is out the list is empty again, however many bursts there were.
+TEST_F(GraphicsEngine, BurstsThatHaveGoneOutLeaveNothingBehind)
+{
+    Start();
+    CParticleSystem& Particles = m_Game.m_Particles;
+    Particles.StartBurst(CPoint3(0.0f, 0.0f, 0.0f));
+    Particles.StartBurst(CPoint3(1.0f, 0.0f, 0.0f));
+    m_Game.m_Clock.m_nDelta = 2000;
+    m_Engine.RenderPlayFrame();
+    EXPECT_TRUE(Particles.m_bActive);
+    EXPECT_EQ(Particles.m_lstParticles.size(), 60u);
+    m_Game.m_Clock.m_nDelta = 1;
+    m_Engine.RenderPlayFrame();
+    EXPECT_FALSE(Particles.m_bActive);
+    EXPECT_TRUE(Particles.m_lstParticles.empty());
+}
