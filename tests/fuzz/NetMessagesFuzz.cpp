@@ -284,11 +284,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
     const auto Deliver = [&] {
         for(uint32_t i = 0; i < uiPeers; i++)
         {
-            for(int iRound = 0; iRound < 4; iRound++)
-            {
-                pSocket->Flush(aPeers[i].m_GameEnd);
-                aPeers[i].Read();
-            }
+            aPeers[i].Read();
+            pSocket->Flush(aPeers[i].m_GameEnd);
+            aPeers[i].Read();
             aPeers[i].Check();
         }
     };
