@@ -29,15 +29,6 @@ void RecordLine(const char* pLine)
     CLogRecorder::Lines().emplace_back(pLine);
 }
 
-sockaddr_in Loopback(uint16_t usPort)
-{
-    sockaddr_in Address{};
-    Address.sin_family = AF_INET;
-    Address.sin_port = htons(usPort);
-    Address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return Address;
-}
-
 uint32_t ReadU32At(const std::vector<uint8_t>& v, size_t At)
 {
     return v[At] | v[At + 1] << 8 | v[At + 2] << 16 | static_cast<uint32_t>(v[At + 3]) << 24;
@@ -83,6 +74,15 @@ size_t CLogRecorder::Count(const std::string& Part)
     for(const std::string& Line : Lines())
         Count += Line.find(Part) != std::string::npos ? 1 : 0;
     return Count;
+}
+
+sockaddr_in Loopback(uint16_t usPort)
+{
+    sockaddr_in Address{};
+    Address.sin_family = AF_INET;
+    Address.sin_port = htons(usPort);
+    Address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return Address;
 }
 
 uint16_t BoundPort(int Socket)

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <netinet/in.h>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ public:
     static size_t Count(const std::string& Part);
 };
 
+// The loopback address with a port.
+sockaddr_in Loopback(uint16_t usPort);
 // A port on the loopback address that nothing listens on at the moment of asking.
 uint16_t FreeLoopbackPort();
 // The port a listening socket was given.

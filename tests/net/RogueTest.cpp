@@ -36,15 +36,6 @@ CClock::time_point In(int iMs)
     return CClock::now() + std::chrono::milliseconds(iMs);
 }
 
-sockaddr_in Loopback(uint16_t usPort)
-{
-    sockaddr_in Address{};
-    Address.sin_family = AF_INET;
-    Address.sin_port = htons(usPort);
-    Address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return Address;
-}
-
 // A connect that gives up after a while: a host whose backlog is full drops the handshake, and a plain connect
 // would then wait for seconds.
 int ConnectWithin(uint16_t usPort, int iMs, int iReceiveBuffer = 0)
