@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <atomic>
 #include <chrono>
@@ -295,8 +296,8 @@ std::vector<uint8_t> RandomFrames(std::mt19937& Random)
                             : uiType == NET_SCORE_TABLE ? SCORE_TABLE_SIZE
                                                         : 1 + Random() % NET_MAX_PAYLOAD;
         std::vector<uint8_t> vPayload = RandomBytes(Random, Size);
-        vPayload[0] = static_cast<uint8_t>(Random() % 12); // counts around the table's size
-        vPayload[1] = vPayload[2] = vPayload[3] = 0;
+        if(Size >= 4) // counts around the table's size
+            std::copy_n(WireU32(Random() % 12).begin(), 4, vPayload.begin());
         const std::vector<uint8_t> vFrame = WireFrame(uiType, Random() % 9, Random() % 9, vPayload);
         vBatch.insert(vBatch.end(), vFrame.begin(), vFrame.end());
     }
