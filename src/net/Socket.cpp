@@ -376,7 +376,7 @@ bool CSocket::ReadOnce(int Socket, CConnection& Link, uint32_t uiSource, bool& b
     const ssize_t iRead = recv(Socket, m_pBuffer + uiFill, uiRoom, 0);
     bMore = false;
     if(iRead == -1 && IsNothingToRead(errno))
-        return ParseBuffer(Socket, uiFill, uiSource);
+        return ParseBuffer(Socket, Link, uiFill, uiSource);
     if(iRead == -1)
     {
         ReportError("recv() in CSocket::Receive");
@@ -385,7 +385,7 @@ bool CSocket::ReadOnce(int Socket, CConnection& Link, uint32_t uiSource, bool& b
     const uint32_t uiRead = static_cast<uint32_t>(iRead);
     Link.m_Allowance.Take(uiRead);
     bMore = uiRead > 0 && uiRead == uiRoom;
-    return ParseBuffer(Socket, uiFill + uiRead, uiSource);
+    return ParseBuffer(Socket, Link, uiFill + uiRead, uiSource);
 }
 
 // A paused connection is taken up again once it may deliver at least a whole frame of the largest size.
@@ -416,7 +416,7 @@ bool CSocket::Absorb(int Socket, const uint8_t* pBytes, uint32_t uiCount, uint32
         const uint32_t uiFill = RestorePartial(Link);
         const uint32_t uiTaken = std::min(uiCount, SOCKET_BUFFER_SIZE - uiFill);
         std::memcpy(m_pBuffer + uiFill, pBytes, uiTaken);
-        if(!ParseBuffer(Socket, uiFill + uiTaken, uiSource))
+        if(!ParseBuffer(Socket, Link, uiFill + uiTaken, uiSource))
             return false;
         pBytes += uiTaken;
         uiCount -= uiTaken;
@@ -436,9 +436,8 @@ uint32_t CSocket::RestorePartial(CConnection& Link)
 
 // More than a header must be there before one is read: every frame carries at least one byte. The limit on
 // the announced size keeps what waits for a connection under one frame, far below the buffer's size.
-bool CSocket::ParseBuffer(int Socket, uint32_t uiFill, uint32_t uiSource)
+bool CSocket::ParseBuffer(int Socket, CConnection& Link, uint32_t uiFill, uint32_t uiSource)
 {
-    CConnection& Link = ConnectionOf(Socket);
     uint32_t uiPos = 0;
     while(uiFill - uiPos > NET_HEADER_SIZE)
     {

@@ -96,7 +96,7 @@ private:
     CConnection& ConnectionOf(int Socket);
     uint32_t RestorePartial(CConnection& Link);
     bool ReadOnce(int Socket, CConnection& Link, uint32_t uiSource, bool& bMore);
-    bool ParseBuffer(int Socket, uint32_t uiFill, uint32_t uiSource);
+    bool ParseBuffer(int Socket, CConnection& Link, uint32_t uiFill, uint32_t uiSource);
     bool Hold(int Socket, CConnection& Link, const uint8_t* pBytes, uint32_t uiCount);
     void CutOff(int Socket, CConnection& Link);
 
