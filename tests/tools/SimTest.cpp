@@ -133,7 +133,8 @@ TEST(Simulator, BadCommandLinesGiveOneLineAndExitTwo)
     ExpectOneLineError(Simulate("data/tracks"));
     ExpectOneLineError(Simulate(""));
     for(const char* pOptions : {"--bogus", "--seed", "--seed x", "--dt 0", "--frames -5", "--round 0",
-                                "--trace /no/such/folder/trace.txt", "--script /no/such/script.txt", "extra.txt"})
+                                "--trace /no/such/folder/trace.txt", "--script /no/such/script.txt", "extra.txt",
+                                "--pace x", "--pace -1", "--aim-error -0.1", "--aim-error 46", "--aim-error nan"})
         ExpectOneLineError(Simulate(std::string(FIRST_LEVEL) + " " + pOptions));
     const CCommandResult Help = Simulate("--help");
     EXPECT_EQ(Help.m_iExitCode, 0);
@@ -189,6 +190,21 @@ TEST(Simulator, AutoplayClearsTheFirstLevelTheSameWayEachTime)
     EXPECT_EQ(Simulate(Arguments).m_Output, Run.m_Output);
 }
 
+// A casual hand fires no more often than its pace and aims off by its own dice: the balls stay those of the
+// seed, so the first balls to enter are the same and only what the shots do differs.
+TEST(Simulator, PaceAndAimErrorChangeTheShotsButNotTheBalls)
+{
+    const std::string Level = std::string(FIRST_LEVEL) + " --autoplay --frames 3000";
+    CTempFile Sure("", "sure.jsonl"), Casual("", "casual.jsonl");
+    const CCommandResult Fast = Simulate(Level + " --trace " + Sure.Path());
+    const CCommandResult Slow = Simulate(Level + " --pace 800 --aim-error 2 --trace " + Casual.Path());
+    EXPECT_GT(Field(Fast.m_Output, "shots_fired"), 38);
+    EXPECT_LE(Field(Slow.m_Output, "shots_fired"), 30000 / 800);
+    EXPECT_GE(Field(Slow.m_Output, "shots_fired"), 30000 / 800 - 2);
+    const auto Balls = [](const std::string& Line) { return Line.substr(0, Line.find(",\"shots\"")); };
+    EXPECT_EQ(Balls(ReadLines(Sure.Path()).at(80)), Balls(ReadLines(Casual.Path()).at(80))) << "before a shot lands";
+    EXPECT_NE(Simulate(Level + " --aim-error 2").m_Output, Fast.m_Output);
+}
 
 // A combo puts a powerup on a ball; bursting it earns the letter, and the power key spends it.
 TEST(Simulator, ScriptedPowerKeysSpendWhatCombosEarn)

@@ -1,6 +1,8 @@
 #include "sim/Autoplay.h"
 
 #include "app/Game.h"
+#include "sim/BallMotion.h"
+#include "sim/PathRiding.h"
 #include "sim/PlayerInput.h"
 #include "sim/ShotPath.h"
 #include "sim/RunCount.h"
@@ -82,8 +84,25 @@ struct CAim
     float m_fDown = 0.0f;
 };
 
+// What the player has seen of the balls' motion, and the frame time that the shots are moved by.
+struct CMotionView
+{
+    const CBallMotion& m_Motion;
+    uint32_t m_uiDeltaMs;
+};
+
+// Where to aim so that a shot meets the ball: where it will be after the flight to there, worked out twice,
+// since the flight's length depends on the point aimed at.
+CPoint3 LeadPoint(const CPoint3& Eye, const CBall& Ball, const CBallMotion& Motion)
+{
+    CPoint3 Lead = Ball.m_Position;
+    for(int i = 0; i < 2; i++)
+        Lead = Motion.PositionAfter(Ball, Distance(Eye, Lead) / SHOT_SPEED);
+    return Lead;
+}
+
 // Tried on a copy of the camera, so that looking costs the player nothing.
-const CBall* PredictAfterTurn(const CGame& Game, const CAim& Aim, uint32_t uiDeltaMs, float fRange)
+const CBall* PredictAfterTurn(const CGame& Game, const CAim& Aim, const CMotionView& View, float fRange)
 {
     CGraphicsEngine Sight;
     Sight.m_pLevel = Game.m_Graphics.m_pLevel;
@@ -92,19 +111,23 @@ const CBall* PredictAfterTurn(const CGame& Game, const CAim& Aim, uint32_t uiDel
     Sight.m_fYaw = Game.m_Graphics.m_fYaw;
     Sight.m_fPitch = Game.m_Graphics.m_fPitch;
     TurnBy(Sight, Aim.m_fRight, Aim.m_fDown);
-    return PredictHit(Game.m_Level, Sight, uiDeltaMs, fRange);
+    return PredictHit(Game.m_Level, Sight, View.m_uiDeltaMs, fRange, &View.m_Motion);
 }
 
-// The best target of the colour that a shot would really reach, not stopped first by another ball.
-CAim BestAim(const CGame& Game, uint8_t ucColour, uint32_t uiDeltaMs)
+// The best target of the colour that a shot would really reach. A shot that another ball of the same colour
+// stops first does good as well: two balls of a colour that stand a little apart each catch the shot aimed at
+// the other.
+CAim BestAim(const CGame& Game, uint8_t ucColour, const CMotionView& View)
 {
     for(const CTarget& Target : RankTargets(Game.m_Level, ucColour))
     {
         CAim Aim;
         Aim.m_iGain = Target.m_iGain;
-        TurnAmounts(Game.m_Graphics, Target.m_pBall->m_Position, Aim.m_fRight, Aim.m_fDown);
-        const float fRange = Distance(Game.m_Graphics.m_vEye, Target.m_pBall->m_Position) + HIT_DISTANCE;
-        if(PredictAfterTurn(Game, Aim, uiDeltaMs, fRange) == Target.m_pBall)
+        const CPoint3 Lead = LeadPoint(Game.m_Graphics.m_vEye, *Target.m_pBall, View.m_Motion);
+        TurnAmounts(Game.m_Graphics, Lead, Aim.m_fRight, Aim.m_fDown);
+        const float fRange = Distance(Game.m_Graphics.m_vEye, Lead) + HIT_DISTANCE;
+        const CBall* pHit = PredictAfterTurn(Game, Aim, View, fRange);
+        if(pHit == Target.m_pBall || (pHit != nullptr && pHit->m_ucColour == ucColour && pHit->m_ucState != BALL_BURST))
             return Aim;
     }
     return {};
@@ -118,13 +141,13 @@ bool AnyBallRolls(const CLevel& Level)
 
 // A colour that can do no good anywhere is fired where it touches nothing, to get the next one sooner:
 // along the present sight if that is clear, else at the sky or the ground.
-bool AimAtNothing(const CGame& Game, uint32_t uiDeltaMs, CAim& Aim)
+bool AimAtNothing(const CGame& Game, const CMotionView& View, CAim& Aim)
 {
     const float fRange = static_cast<float>(SHOT_LIFE) * SHOT_SPEED;
     for(float fDown : {0.0f, -360.0f, 360.0f})
     {
         Aim.m_fDown = fDown;
-        if(PredictAfterTurn(Game, Aim, uiDeltaMs, fRange) == nullptr)
+        if(PredictAfterTurn(Game, Aim, View, fRange) == nullptr)
             return true;
     }
     return false;
@@ -165,30 +188,56 @@ bool HarmsWhereItLands(char cLetter)
     return cLetter == 'I' || cLetter == 'E' || cLetter == 'T' || cLetter == 'R';
 }
 
-void CAutoplay::Play(CGame& Game, CRunCount& Count) const
+CAutoplay::CAutoplay(uint32_t uiDeltaMs, const CPlayStyle& Style)
+    : m_uiDeltaMs(uiDeltaMs), m_Style(Style), m_AimRandom(Style.m_uiSeed)
+{
+}
+
+void CAutoplay::Play(CGame& Game, CRunCount& Count)
 {
     if(!Game.m_Logic.m_bActive)
         return;
+    m_uiSinceShot += m_uiDeltaMs;
+    m_Motion.Observe(Game.m_Level, m_uiDeltaMs);
     if(WorthSpending(Game) && PressPowerupKey(Game, ' '))
         Count.m_ulPowerupsUsed++;
-    if(Game.m_nFireDelay == 0 && AnyBallRolls(Game.m_Level))
-        Count.m_ulShotsFired += AimAndFire(Game) ? 1 : 0;
+    RideTowardsDanger(Game);
+    if(Game.m_nFireDelay != 0 || m_uiSinceShot < m_Style.m_uiPaceMs || !AnyBallRolls(Game.m_Level))
+        return;
+    if(AimAndFire(Game))
+    {
+        Count.m_ulShotsFired++;
+        m_uiSinceShot = 0;
+    }
 }
 
-bool CAutoplay::AimAndFire(CGame& Game) const
+void CAutoplay::MissAim(CGame& Game)
 {
-    CAim Aim = BestAim(Game, Game.m_Level.m_ucShotColour, m_uiDeltaMs);
+    if(m_Style.m_fAimErrorDeg <= 0.0f)
+        return;
+    std::uniform_real_distribution<float> Size(0.0f, m_Style.m_fAimErrorDeg / DEGREES_PER_UNIT);
+    std::uniform_real_distribution<float> Direction(0.0f, 6.2831853f);
+    const float fSize = Size(m_AimRandom);
+    const float fDirection = Direction(m_AimRandom);
+    TurnBy(Game.m_Graphics, fSize * std::cos(fDirection), fSize * std::sin(fDirection));
+}
+
+bool CAutoplay::AimAndFire(CGame& Game)
+{
+    const CMotionView View{m_Motion, m_uiDeltaMs};
+    CAim Aim = BestAim(Game, Game.m_Level.m_ucShotColour, View);
     if(Aim.m_iGain != GAIN_RUN)
     {
-        const CAim Next = BestAim(Game, Game.m_Level.m_ucNextColour, m_uiDeltaMs);
+        const CAim Next = BestAim(Game, Game.m_Level.m_ucNextColour, View);
         if(Next.m_iGain > Aim.m_iGain)
         {
             Game.m_Logic.SwapColours();
             Aim = Next;
         }
     }
-    if(Aim.m_iGain == GAIN_NONE && !AimAtNothing(Game, m_uiDeltaMs, Aim))
+    if(Aim.m_iGain == GAIN_NONE && !AimAtNothing(Game, View, Aim))
         return false;
     TurnBy(Game.m_Graphics, Aim.m_fRight, Aim.m_fDown);
+    MissAim(Game);
     return FireShot(Game);
 }

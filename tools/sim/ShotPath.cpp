@@ -1,19 +1,22 @@
 #include "sim/ShotPath.h"
 
 #include "gfx/GraphicsEngine.h"
+#include "sim/BallMotion.h"
 #include "play/ChainLogic.h"
 #include "tracks/Level.h"
 
 namespace
 {
 // The rules test tracks in order and, on each, the balls from the rear: the first within reach is hit.
-const CBall* FirstHit(const CLevel& Level, const CBall& Shot)
+const CBall* FirstHit(const CLevel& Level, const CBall& Shot, const CBallMotion* pMotion, float fElapsedMs)
 {
     for(const CTrack& Track : Level.m_vTracks)
     {
         for(const CBall* pBall : Track.m_lstBalls)
         {
-            if(CChainLogic::IsHit(Shot, *pBall))
+            const bool bHit = pMotion ? Distance(Shot.m_Position, pMotion->PositionAfter(*pBall, fElapsedMs)) < HIT_DISTANCE
+                                      : CChainLogic::IsHit(Shot, *pBall);
+            if(bHit)
                 return pBall;
         }
     }
@@ -21,7 +24,8 @@ const CBall* FirstHit(const CLevel& Level, const CBall& Shot)
 }
 } // namespace
 
-const CBall* PredictHit(const CLevel& Level, const CGraphicsEngine& Camera, uint32_t uiDeltaMs, float fRange)
+const CBall* PredictHit(const CLevel& Level, const CGraphicsEngine& Camera, uint32_t uiDeltaMs, float fRange,
+                        const CBallMotion* pMotion)
 {
     // Launched as the rules launch it, and moved by the same float operations in the same order.
     CBall Shot;
@@ -30,11 +34,13 @@ const CBall* PredictHit(const CLevel& Level, const CGraphicsEngine& Camera, uint
     Shot.m_vDirection.Normalize();
     const float fStep = static_cast<float>(uiDeltaMs) * SHOT_SPEED;
     float fTravelled = 0.0f;
+    float fElapsedMs = 0.0f;
     for(uint32_t uiLife = SHOT_LIFE; uiDeltaMs < uiLife && fTravelled <= fRange; uiLife -= uiDeltaMs)
     {
         Shot.m_Position += Shot.m_vDirection * static_cast<float>(uiDeltaMs) * SHOT_SPEED;
         fTravelled += fStep;
-        if(const CBall* pHit = FirstHit(Level, Shot))
+        fElapsedMs += static_cast<float>(uiDeltaMs);
+        if(const CBall* pHit = FirstHit(Level, Shot, pMotion, fElapsedMs))
             return pHit;
     }
     return nullptr;

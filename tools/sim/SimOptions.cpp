@@ -3,11 +3,11 @@
 #include "common/NumberParse.h"
 
 const char* const SIM_USAGE = "trelvane-sim LEVEL_FILE [--seed N] [--dt MS] [--frames N] [--round R] [--script FILE] "
-                              "[--autoplay] [--trace FILE]";
+                              "[--autoplay [--pace MS] [--aim-error DEG]] [--trace FILE]";
 
 const char* const SIM_HELP =
-    "usage: trelvane-sim LEVEL_FILE [--seed N] [--dt MS] [--frames N] [--round R] [--script FILE] [--autoplay] "
-    "[--trace FILE]\n"
+    "usage: trelvane-sim LEVEL_FILE [--seed N] [--dt MS] [--frames N] [--round R] [--script FILE]\n"
+    "                    [--autoplay [--pace MS] [--aim-error DEG]] [--trace FILE]\n"
     "Plays a level by the game's own rules, without a window, and prints one line of JSON with the result.\n"
     "  --seed N       seed of the game's random numbers (default 1)\n"
     "  --dt MS        milliseconds in each frame, 1 to 60000 (default 10)\n"
@@ -15,13 +15,28 @@ const char* const SIM_HELP =
     "  --round R      round of the run, which speeds the chains up (default 1)\n"
     "  --script FILE  player actions, one a line: FRAME aim YAW PITCH | turn DX DY | fire | swap | path |\n"
     "                 forward N | back N | power [PLAYER]\n"
-    "  --autoplay     aim and fire as a player would\n"
+    "  --autoplay     aim and fire as a player would, riding the camera paths towards the chain in most danger\n"
+    "  --pace MS      the autoplayer waits at least MS milliseconds between two shots (default 0: the game's\n"
+    "                 own fire delay of 500 ms alone)\n"
+    "  --aim-error DEG  every aim of the autoplayer lands a random angle of up to DEG degrees off, 0 to 45\n"
+    "                 (default 0); the balls stay those of the seed\n"
     "  --trace FILE   write every frame's balls and shots as one line of JSON each\n"
     "  --help         show this text\n";
 
 namespace
 {
 constexpr uint32_t MAX_DELTA_MS = 60000; // a minute a frame is already far beyond any real frame
+constexpr uint32_t MAX_PACE_MS = 3600000;
+constexpr float MAX_AIM_ERROR_DEG = 45.0f;
+
+bool StoreAimError(const std::string& Value, float& fDegrees)
+{
+    float fValue = 0.0f;
+    if(!ParseFinite(Value, fValue) || fValue < 0.0f || fValue > MAX_AIM_ERROR_DEG)
+        return false;
+    fDegrees = fValue;
+    return true;
+}
 
 // Stores the value of one option that takes one; false when the text is not a value the option accepts.
 bool StoreValue(const std::string& Name, const std::string& Value, CSimOptions& Options)
@@ -32,6 +47,10 @@ bool StoreValue(const std::string& Name, const std::string& Value, CSimOptions& 
         return ParseU32(Value, 1, MAX_DELTA_MS, Options.m_uiDeltaMs);
     if(Name == "--round")
         return ParseU32(Value, 1, UINT32_MAX, Options.m_uiRound);
+    if(Name == "--pace")
+        return ParseU32(Value, 0, MAX_PACE_MS, Options.m_uiPaceMs);
+    if(Name == "--aim-error")
+        return StoreAimError(Value, Options.m_fAimErrorDeg);
     if(Name == "--frames")
         return ParseUnsigned(Value, UINT64_MAX, Options.m_ulFrames);
     std::string& Text = Name == "--script" ? Options.m_ScriptFile : Options.m_TraceFile;
@@ -41,7 +60,7 @@ bool StoreValue(const std::string& Name, const std::string& Value, CSimOptions& 
 
 bool TakesValue(const std::string& Name)
 {
-    for(const char* pName : {"--seed", "--dt", "--frames", "--round", "--script", "--trace"})
+    for(const char* pName : {"--seed", "--dt", "--frames", "--round", "--script", "--trace", "--pace", "--aim-error"})
     {
         if(Name == pName)
             return true;

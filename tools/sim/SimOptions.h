@@ -16,6 +16,8 @@ struct CSimOptions
     std::string m_ScriptFile;
     std::string m_TraceFile;
     bool m_bAutoplay = false;
+    uint32_t m_uiPaceMs = 0;     // the autoplayer's least time between two shots
+    float m_fAimErrorDeg = 0.0f; // and the most its aim is off
     bool m_bHelp = false;
 };
 

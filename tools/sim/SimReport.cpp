@@ -5,8 +5,6 @@
 
 #include <string>
 
-namespace
-{
 const char* Outcome(const CGame& Game)
 {
     if(Game.m_Logic.m_bActive)
@@ -14,6 +12,8 @@ const char* Outcome(const CGame& Game)
     return Game.m_Level.m_bWon ? "won" : "lost";
 }
 
+namespace
+{
 void WriteBall(std::ostream& Stream, const CBall& Ball)
 {
     Stream << "{\"c\":" << unsigned(Ball.m_ucColour) << ",\"p\":" << Ball.m_uiPoint

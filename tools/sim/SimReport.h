@@ -6,6 +6,9 @@
 
 class CGame;
 
+// "won", "lost", or "running" while the level goes on.
+const char* Outcome(const CGame& Game);
+
 // The result of a run as one line of JSON: outcome, time, score, what is left and the results-screen counters.
 void WriteSummary(std::ostream& Stream, const CGame& Game, const CRunCount& Count);
 
