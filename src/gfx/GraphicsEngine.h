@@ -49,6 +49,7 @@ enum
 
 // The lobby shows this many rows of the track list; the arrows scroll it only when it holds more.
 constexpr uint32_t TRACK_LIST_ROWS = 16;
+constexpr char BACKGROUND_FOLDER[] = "data\\hud\\images\\"; // where a level's background picture is looked for
 // A volume slider's left edge stands this far to the right of the screen's edge at volume 0.
 constexpr int32_t SLIDER_ORIGIN_X = 355;
 

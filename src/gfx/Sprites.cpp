@@ -10,7 +10,6 @@ constexpr float SCREEN_WIDTH = 800.0f;
 constexpr float SCREEN_HEIGHT = 600.0f;
 constexpr float NEAREST = 0.0f;  // sprites: whatever comes later stays behind them
 constexpr float FARTHEST = 1.0f; // the background: shows only where nothing else was drawn
-constexpr char BACKGROUND_FOLDER[] = "data\\hud\\images\\";
 constexpr size_t BACKGROUND_PATH_CHARS = 39;
 } // namespace
 
