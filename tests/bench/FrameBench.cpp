@@ -31,7 +31,7 @@ struct CDrawnLevel
         };
         if(!m_Game.m_Graphics.Init() || !InitFonts())
             return;
-        m_Game.StartLevel("data/tracks/level1.txt");
+        m_Game.StartLevel("tests/data/level1.txt");
         Fill(m_Game.m_Level.m_vTracks.at(0), uiBalls);
         m_bReady = true;
     }

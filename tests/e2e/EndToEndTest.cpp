@@ -56,7 +56,7 @@ public:
         m_Folder = std::string(m_List.Path()).substr(0, std::string(m_List.Path()).find("/data/"));
         for(const char* pPart : {"menus", "hud", "Music"})
             std::filesystem::create_directory_symlink(REPOSITORY + "/data/" + pPart, m_Folder + "/data/" + pPart);
-        std::filesystem::copy_file(REPOSITORY + "/data/tracks/level1.txt", m_Folder + "/data/tracks/level1.txt");
+        std::filesystem::copy_file(REPOSITORY + "/tests/data/level1.txt", m_Folder + "/data/tracks/level1.txt");
         std::ofstream(m_Folder + "/data/tracks/quick.txt")
             << "Track: 4 points, degree 3 balls 0 interval 500 : :\n0,0,0\n1,0,0\n2,0,0\n3,0,0\nEnd\n";
     }
@@ -145,7 +145,7 @@ TEST_F(EndToEnd, AFrameOfAShippedLevelShowsItsTrackLinesAndBallsInTheirColours)
 {
     CTempFile Out("", "level1.png");
     const CCommandResult Run = RunCommand("cd '" + REPOSITORY + "' && '" TRELVANE_SHOT_BINARY
-                                          "' data/tracks/level1.txt '" + Out.Path() + "' --frames 1500 --balls");
+                                          "' tests/data/level1.txt '" + Out.Path() + "' --frames 1500 --balls");
     ASSERT_EQ(Run.m_iExitCode, 0) << Run.m_Output;
     CPicture Frame;
     ASSERT_TRUE(ReadPicture(Out.Path(), Frame));

@@ -12,7 +12,7 @@ protected:
     void PlayLevelOne()
     {
         Start();
-        m_Game.StartLevel("data/tracks/level1.txt");
+        m_Game.StartLevel("tests/data/level1.txt");
         for(int i = 0; i < 200; i++)
             Frame();
         m_Device.ClearRecords();

@@ -11,7 +11,7 @@
 
 namespace
 {
-const char* const FIRST_LEVEL = "data/tracks/level1.txt";
+const char* const FIRST_LEVEL = "tests/data/level1.txt";
 const char* const SUMMARY_KEYS[] = {"outcome",      "frames",      "ms",       "score",   "balls_on_tracks",
                                     "balls_queued", "shots_fired", "stats",    "triples", "chains",
                                     "max_chain",    "combos",      "max_combo"};

@@ -2,12 +2,10 @@
 // frames of play, or a menu screen.
 #include "app/Game.h"
 #include "net/Log.h"
-#include "gfx/Fonts.h"
 #include "platform/Clock.h"
 #include "platform/GameMatrix.h"
-#include "platform/GlRenderDevice.h"
 #include "platform/PngFile.h"
-#include "platform/SdlWindow.h"
+#include "shot/FrameGrab.h"
 #include "shot/ShotOptions.h"
 
 #include <cstdio>
@@ -16,8 +14,6 @@
 
 namespace
 {
-constexpr uint32_t FRAME_MS = 10;
-
 int Fail(const std::string& Reason)
 {
     std::fprintf(stderr, "trelvane-shot: %s\n", Reason.c_str());
@@ -26,14 +22,10 @@ int Fail(const std::string& Reason)
 
 // The level's rules run frame by frame on a hand-set clock; the frame saved is a play frame drawn last,
 // with the view turned as asked.
-void PlayLevel(CGame& Game, const CShotOptions& Options)
+void PlayLevel(CFrameGrab& Grab, const CShotOptions& Options)
 {
-    Game.StartLevel(Options.m_LevelFile.c_str());
-    for(uint32_t i = 0; i < Options.m_uiFrames; i++)
-    {
-        AdvanceManualClock(FRAME_MS);
-        Game.Tick();
-    }
+    Grab.PlayLevel(Options.m_LevelFile, Options.m_uiFrames);
+    CGame& Game = Grab.Game();
     if(Options.m_bAim)
     {
         Game.m_Graphics.m_fYaw = Options.m_fYaw;
@@ -69,30 +61,24 @@ void ListBalls(const CGame& Game)
     }
 }
 
-int Grab(const CShotOptions& Options, CSdlWindow& Window)
+int Grab(const CShotOptions& Options)
 {
-    CGlRenderDevice Device;
-    CGame Game;
-    g_pGame = &Game;
-    Game.m_Graphics.m_fnOpenDevice = [&Device, &Window]() -> IRenderDevice* {
-        return Device.Init(Window) ? &Device : nullptr;
-    };
-    if(!Game.m_Graphics.Init())
-        return Fail("no OpenGL device");
-    InitFonts();
+    CFrameGrab Grab;
+    std::string Reason;
+    if(!Grab.Open(Reason))
+        return Fail(Reason);
+    CGame& Game = Grab.Game();
     if(Options.m_LevelFile.empty())
     {
         Game.m_Graphics.m_nScreenState = Options.m_iMenuState;
         Game.m_Graphics.RenderMenuFrame();
     }
     else
-        PlayLevel(Game, Options);
+        PlayLevel(Grab, Options);
     if(Options.m_bListBalls)
         ListBalls(Game);
     std::vector<uint8_t> vPixels;
-    const bool bSaved = Device.ReadPixels(vPixels) && SavePng(Options.m_OutFile.c_str(), vPixels, 800, 600);
-    ReleaseFonts();
-    g_pGame = nullptr;
+    const bool bSaved = Grab.ReadFrame(vPixels) && SavePng(Options.m_OutFile.c_str(), vPixels, 800, 600);
     return bSaved ? EXIT_SUCCESS : Fail("cannot write " + Options.m_OutFile);
 }
 } // namespace
@@ -106,9 +92,5 @@ int main(int iArgCount, char** ppArgs)
     SetManualClock(0);
     SetLogSink([](const char*) {}); // a frame grab has no network to tell of
     std::srand(Options.m_uiSeed);
-    CSdlWindow Window;
-    const char* pReason = "";
-    if(!Window.Create("Trelvane", &pReason, true))
-        return Fail(std::string("no window: ") + pReason);
-    return Grab(Options, Window);
+    return Grab(Options);
 }
