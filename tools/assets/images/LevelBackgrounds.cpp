@@ -5,6 +5,9 @@
 #include "Filters.h"
 #include "Gradients.h"
 #include "Scenery.h"
+#include "Shapes.h"
+
+#include <cmath>
 
 namespace art {
 
@@ -84,12 +87,105 @@ Canvas forest()
     return c;
 }
 
+// A red canyon at dusk: stepped walls either side of a deep cleft, a last glow above it.
+Canvas canyon()
+{
+    Canvas c(kScreenWidth, kScreenHeight);
+    c.fill(vertical(0, 420, {{0.0f, hex(0x0b0a1a)}, {0.55f, hex(0x2a1526)}, {0.85f, hex(0x5a2a22)}, {1.0f, hex(0x6e3a24)}}));
+    stars(c, 5101, 80, 0, 180, 0.4f);
+    haze(c, {5102, hex(0x8a4a3a), 170, 0.14f, 0.5f, 200, 420});
+    layer(c, [](float x) { return 450 - 200 * std::pow(std::abs(x - 400) / 400, 0.7f); }, hex(0x3a1a18));
+    layer(c, rollingRidge(5103, 470, 30, 90), hex(0x24100f));
+    layer(c, rollingRidge(5104, 540, 25, 70), hex(0x140908));
+    vignette(c, 0.55f);
+    return c;
+}
+
+// An aurora over a frozen lake: green and violet curtains, pale ice below a dark shore.
+Canvas aurora()
+{
+    constexpr float kShore = 400;
+    Canvas c(kScreenWidth, kScreenHeight);
+    c.fill(vertical(0, kShore, {{0.0f, hex(0x020812)}, {0.7f, hex(0x06162a)}, {1.0f, hex(0x0c2236)}}));
+    stars(c, 6101, 320, 0, 320, 0.6f);
+    haze(c, {6102, hex(0x2fae7a), 90, 0.28f, 0.52f, 40, 300});
+    haze(c, {6103, hex(0x7a4ab0), 140, 0.18f, 0.55f, 20, 240});
+    layer(c, rollingRidge(6104, kShore - 20, 18, 160), hex(0x050c14));
+    c.paint(belowRidge(kScreenWidth, kScreenHeight, [](float) { return kShore; }),
+            vertical(kShore, kScreenHeight, {{0.0f, hex(0x1a2c3c)}, {1.0f, hex(0x070d16)}}));
+    haze(c, {6105, hex(0x2a8a6a), 200, 0.08f, 0.5f, kShore, kScreenHeight});
+    vignette(c, 0.6f);
+    return c;
+}
+
+// A volcano under ash: a dull orange glow from the crater lights the clouds from below.
+Canvas volcano()
+{
+    Canvas c(kScreenWidth, kScreenHeight);
+    c.fill(vertical(0, kScreenHeight, {{0.0f, hex(0x0a0707)}, {0.6f, hex(0x1c0f0c)}, {1.0f, hex(0x0c0605)}}));
+    c.paint(fullMask(kScreenWidth, kScreenHeight), oval(420, 330, 300, 170, {{0.0f, hex(0xb04a1a, 0.4f)}, {1.0f, hex(0, 0)}}));
+    haze(c, {7101, hex(0x5a3a32), 150, 0.3f, 0.45f, 0, 360});
+    haze(c, {7102, hex(0x8a4020), 110, 0.16f, 0.55f, 150, 360});
+    layer(c, [](float x) { return 330 + std::abs(x - 420) * 0.55f + 10 * std::sin(x / 37); }, hex(0x1a0c0a));
+    layer(c, rollingRidge(7103, 520, 30, 110), hex(0x0b0505));
+    vignette(c, 0.6f);
+    return c;
+}
+
+// A city at night far below, seen from a tower: a grid of small warm lights under a hazy sky.
+Canvas city()
+{
+    constexpr float kHorizon = 250;
+    Canvas c(kScreenWidth, kScreenHeight);
+    c.fill(vertical(0, kHorizon, {{0.0f, hex(0x05060f)}, {1.0f, hex(0x1a1a30)}}));
+    stars(c, 8101, 60, 0, 160, 0.35f);
+    c.paint(belowRidge(kScreenWidth, kScreenHeight, [](float) { return kHorizon; }),
+            vertical(kHorizon, kScreenHeight, {{0.0f, hex(0x15131f)}, {1.0f, hex(0x07070c)}}));
+    stars(c, 8102, 900, kHorizon + 4, kScreenHeight, 0.28f); // the lights of the streets, dimmer near the eye
+    haze(c, {8103, hex(0x6a4a3a), 180, 0.18f, 0.45f, kHorizon - 40, kHorizon + 160});
+    vignette(c, 0.65f);
+    return c;
+}
+
+// Deep under water: shafts of light from a surface far above, fading into blue dark.
+Canvas deep()
+{
+    Canvas c(kScreenWidth, kScreenHeight);
+    c.fill(vertical(0, kScreenHeight, {{0.0f, hex(0x0b2a3a)}, {0.45f, hex(0x061a28)}, {1.0f, hex(0x020910)}}));
+    for (int i = 0; i < 5; ++i) {
+        const float x = 140.0f + 130.0f * i;
+        fillShape(c, polygon({{x, 0}, {x + 34, 0}, {x + 150, 430}, {x + 90, 430}}),
+                  vertical(0, 430, {{0.0f, hex(0x5a9ab0, 0.16f)}, {1.0f, hex(0x5a9ab0, 0.0f)}}), 18.0f);
+    }
+    haze(c, {9101, hex(0x2a6a7a), 120, 0.12f, 0.5f, 0, 500});
+    stars(c, 9102, 140, 120, kScreenHeight, 0.22f); // drifting motes
+    vignette(c, 0.65f);
+    return c;
+}
+
+// A storm over the plains: heavy clouds, a far flash behind them, dark grass to the horizon.
+Canvas storm()
+{
+    constexpr float kHorizon = 420;
+    Canvas c(kScreenWidth, kScreenHeight);
+    c.fill(vertical(0, kHorizon, {{0.0f, hex(0x0a0c12)}, {0.8f, hex(0x1c2230)}, {1.0f, hex(0x2a3040)}}));
+    c.paint(fullMask(kScreenWidth, kScreenHeight), oval(230, 260, 200, 120, {{0.0f, hex(0x8a90b0, 0.22f)}, {1.0f, hex(0, 0)}}));
+    haze(c, {10101, hex(0x3a4050), 200, 0.45f, 0.4f, 0, 380});
+    haze(c, {10102, hex(0x12141c), 130, 0.4f, 0.5f, 0, 340});
+    layer(c, rollingRidge(10103, kHorizon, 6, 200), hex(0x0d1210));
+    haze(c, {10104, hex(0x2a3a2a), 160, 0.1f, 0.5f, kHorizon, kScreenHeight});
+    vignette(c, 0.6f);
+    return c;
+}
+
 } // namespace
 
 Pictures levelBackgrounds()
 {
-    return {inHud("bg_dawn.png", dawn), inHud("bg_nebula.png", nebula), inHud("bg_ocean.png", ocean),
-            inHud("bg_forest.png", forest)};
+    return {inHud("bg_dawn.png", dawn),     inHud("bg_nebula.png", nebula),   inHud("bg_ocean.png", ocean),
+            inHud("bg_forest.png", forest), inHud("bg_canyon.png", canyon),   inHud("bg_aurora.png", aurora),
+            inHud("bg_volcano.png", volcano), inHud("bg_city.png", city),     inHud("bg_deep.png", deep),
+            inHud("bg_storm.png", storm)};
 }
 
 } // namespace art
