@@ -5,6 +5,7 @@
 #include "platform/Audio.h"
 #include "platform/ScriptedInput.h"
 #include "platform/SocketEvents.h"
+#include "tracks/TrackList.h"
 
 #include <cstring>
 
@@ -71,8 +72,10 @@ protected:
     }
     void UseLevels(uint32_t uiCount)
     {
+        CTrackList Shipped; // the first five levels of the game, over and over
+        Shipped.Load(TRACK_LIST_FILE);
         for(uint32_t i = 0; i < uiCount; i++)
-            m_Game.m_Tracks.m_vFiles.push_back("data//tracks//level" + std::to_string(i % 5 + 1) + ".txt");
+            m_Game.m_Tracks.m_vFiles.push_back(Shipped.m_vFiles.at(i % 5));
         m_Game.m_Tracks.m_uiNumFiles = uiCount;
     }
 
@@ -175,7 +178,7 @@ TEST_F(ScreenFlow, LobbyRowsScrollAndChooseSilentlyAndOnlyTheHostStarts)
     m_Game.m_Tracks.m_uiCurrentFile = 9;
     ClickOn(SCREEN_LOBBY, HOT_START);
     EXPECT_EQ(m_Engine.m_nScreenState, SCREEN_PLAY);
-    EXPECT_EQ(m_Game.m_Level.m_vTracks.size(), 2u) << "level4, the fourth file, has two tracks";
+    EXPECT_EQ(m_Game.m_Level.m_vTracks.size(), 2u) << "the fourth level of the list has two tracks";
     EXPECT_EQ(m_Game.m_Tracks.m_uiCurrentFile, 0u) << "the chosen track only names the file";
 }
 
