@@ -43,11 +43,13 @@ int64_t FirstSection(const std::vector<CSectionStart>& vSections, char cTag)
     return 0;
 }
 
-void CheckSections(const CLevel& Level, const std::vector<CSectionStart>& vSections, std::vector<CDiagnostic>& vOut)
+// A file that broke off lacks what stood behind the break; that is told once, where it broke.
+void CheckSections(const CLevel& Level, const std::vector<CSectionStart>& vSections, bool bWhole,
+                   std::vector<CDiagnostic>& vOut)
 {
     for(const CMissing& Missing : MISSING_SECTIONS)
     {
-        if(!HasSection(vSections, Missing.m_cTag))
+        if(bWhole && !HasSection(vSections, Missing.m_cTag))
             vOut.push_back({0, false, Missing.m_pText});
     }
     const std::string Picture = std::string(BACKGROUND_FOLDER) + Level.m_szBackground;
@@ -72,11 +74,11 @@ std::vector<CDiagnostic> CheckLevelText(const std::string& Text)
     std::istringstream Stream(Text);
     CTrackFileReader Reader(Stream, Level, 1);
     Reader.SetObserver(&Recorder);
-    Reader.Read();
+    const bool bWhole = Reader.Read();
     Level.FinishLoad();
 
     std::vector<CDiagnostic> vFound = std::move(Recorder.Diagnostics());
-    CheckSections(Level, Recorder.Sections(), vFound);
+    CheckSections(Level, Recorder.Sections(), bWhole, vFound);
     CheckCurves(Level, Recorder.Sections(), vFound);
     CheckCrossings(Level, Recorder.Sections(), vFound);
     CheckSight(Level, Camera, Recorder.Sections(), vFound);
