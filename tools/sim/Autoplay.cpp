@@ -152,18 +152,6 @@ bool AimAtNothing(const CGame& Game, const CMotionView& View, CAim& Aim)
     }
     return false;
 }
-// How far the most advanced ball of any track has come, 0 at the start and 1 at the end.
-float Danger(const CLevel& Level)
-{
-    float fDanger = 0.0f;
-    for(const CTrack& Track : Level.m_vTracks)
-    {
-        if(!Track.m_lstBalls.empty() && Track.m_Spline.m_uiNumPoints > 0)
-            fDanger = std::max(fDanger, static_cast<float>(Track.m_lstBalls.back()->m_uiPoint) /
-                                            static_cast<float>(Track.m_Spline.m_uiNumPoints));
-    }
-    return fDanger;
-}
 
 // HALT, CLEAR and MAKE always help. A slowing ends with every track at 300 ms a ball, and an exchange of
 // colours is a gamble, so those go when the chains are close to their ends or to make room on a full stack.
@@ -178,7 +166,7 @@ bool WorthSpending(const CGame& Game)
         return false;
     if(cOldest == 'H' || cOldest == 'C' || cOldest == 'M')
         return true;
-    return Powerups.m_nStackCount == POWERUP_STACK_SIZE || Danger(Game.m_Level) > 0.8f;
+    return Powerups.m_nStackCount == POWERUP_STACK_SIZE || FurthestLead(Game.m_Level).m_fAlong > 0.8f;
 }
 } // namespace
 

@@ -28,26 +28,6 @@ CNearest NearestPoint(const CCameraPath& Path, const CPoint3& Target)
     return Nearest;
 }
 
-// The lead ball of the chain that has come furthest along its track, or null when no ball rolls.
-const CBall* MostEndangered(const CLevel& Level)
-{
-    const CBall* pLead = nullptr;
-    float fFurthest = -1.0f;
-    for(const CTrack& Track : Level.m_vTracks)
-    {
-        if(Track.m_lstBalls.empty() || Track.m_Spline.m_uiNumPoints == 0)
-            continue;
-        const float fAlong = static_cast<float>(Track.m_lstBalls.back()->m_uiPoint) /
-                             static_cast<float>(Track.m_Spline.m_uiNumPoints);
-        if(fAlong > fFurthest)
-        {
-            fFurthest = fAlong;
-            pLead = Track.m_lstBalls.back();
-        }
-    }
-    return pLead;
-}
-
 // The middle button steps through the paths in order; it is pressed once for each path passed.
 void ChangeToNearerPath(CLevel& Level, const CPoint3& Target)
 {
@@ -69,10 +49,25 @@ void ChangeToNearerPath(CLevel& Level, const CPoint3& Target)
 }
 } // namespace
 
+CFurthestLead FurthestLead(const CLevel& Level)
+{
+    CFurthestLead Furthest;
+    for(const CTrack& Track : Level.m_vTracks)
+    {
+        if(Track.m_lstBalls.empty() || Track.m_Spline.m_uiNumPoints == 0)
+            continue;
+        const float fAlong = static_cast<float>(Track.m_lstBalls.back()->m_uiPoint) /
+                             static_cast<float>(Track.m_Spline.m_uiNumPoints);
+        if(Furthest.m_pBall == nullptr || fAlong > Furthest.m_fAlong)
+            Furthest = {Track.m_lstBalls.back(), fAlong};
+    }
+    return Furthest;
+}
+
 void RideTowardsDanger(CGame& Game)
 {
     CLevel& Level = Game.m_Level;
-    const CBall* pLead = MostEndangered(Level);
+    const CBall* pLead = FurthestLead(Level).m_pBall;
     if(pLead == nullptr || Level.m_ucNumCameraPaths == 0 || Level.m_ucCurrentPath >= Level.m_ucNumCameraPaths)
         return;
     if(Level.m_ucNumCameraPaths > 1)
