@@ -37,11 +37,6 @@ std::string TrackName(size_t i)
     return "track " + std::to_string(i + 1);
 }
 
-bool SameTag(char a, char b)
-{
-    return (a | 0x20) == (b | 0x20);
-}
-
 void CheckCurve(const CBSpline& Spline, const std::string& Name, int64_t Offset, std::vector<CDiagnostic>& vOut)
 {
     const size_t Points = Spline.m_vControlPoints.size();
@@ -141,35 +136,21 @@ float NearestEye(const CLevel& Level, const CPoint3& p)
 }
 } // namespace
 
-int64_t SectionOf(const std::vector<CSectionStart>& vSections, char cTag, size_t Index)
-{
-    for(size_t i = 0; i < vSections.size(); i++)
-    {
-        const CSectionStart& Section = vSections[i];
-        const size_t Before = SameTag(cTag, 'T') ? Section.m_TracksBefore : Section.m_PathsBefore;
-        const bool bNextHasIt = i + 1 == vSections.size() ||
-                                (SameTag(cTag, 'T') ? vSections[i + 1].m_TracksBefore : vSections[i + 1].m_PathsBefore) > Index;
-        if(SameTag(Section.m_cTag, cTag) && Before == Index && bNextHasIt)
-            return Section.m_Offset;
-    }
-    return 0;
-}
-
-void CheckCurves(const CLevel& Level, const std::vector<CSectionStart>& vSections, std::vector<CDiagnostic>& vOut)
+void CheckCurves(const CLevel& Level, const CSectionPlaces& Places, std::vector<CDiagnostic>& vOut)
 {
     for(size_t i = 0; i < Level.m_vCameraPaths.size(); i++)
-        CheckCurve(Level.m_vCameraPaths[i].m_Spline, "camera path " + std::to_string(i + 1), SectionOf(vSections, 'C', i),
+        CheckCurve(Level.m_vCameraPaths[i].m_Spline, "camera path " + std::to_string(i + 1), Places.m_vPaths[i],
                    vOut);
     for(size_t i = 0; i < Level.m_vTracks.size(); i++)
-        CheckTrack(Level.m_vTracks[i], TrackName(i), SectionOf(vSections, 'T', i), vOut);
+        CheckTrack(Level.m_vTracks[i], TrackName(i), Places.m_vTracks[i], vOut);
 }
 
-void CheckCrossings(const CLevel& Level, const std::vector<CSectionStart>& vSections, std::vector<CDiagnostic>& vOut)
+void CheckCrossings(const CLevel& Level, const CSectionPlaces& Places, std::vector<CDiagnostic>& vOut)
 {
     const std::vector<CTrack>& vTracks = Level.m_vTracks;
     for(size_t i = 0; i < vTracks.size(); i++)
     {
-        const int64_t Offset = SectionOf(vSections, 'T', i);
+        const int64_t Offset = Places.m_vTracks[i];
         const CApproach Self = Closest(vTracks[i].m_Spline.m_vSamples, vTracks[i].m_Spline.m_vSamples, true);
         if(Self.m_fDistance < BALL_DIAMETER)
             vOut.push_back({Offset, false,
@@ -187,7 +168,7 @@ void CheckCrossings(const CLevel& Level, const std::vector<CSectionStart>& vSect
     }
 }
 
-void CheckSight(const CLevel& Level, CGraphicsEngine& Camera, const std::vector<CSectionStart>& vSections,
+void CheckSight(const CLevel& Level, CGraphicsEngine& Camera, const CSectionPlaces& Places,
                 std::vector<CDiagnostic>& vOut)
 {
     Camera.SetupCamera(NEAR_PLANE, FAR_PLANE);
@@ -196,7 +177,7 @@ void CheckSight(const CLevel& Level, CGraphicsEngine& Camera, const std::vector<
         const std::vector<CPoint3>& vPoints = Level.m_vTracks[i].m_Spline.m_vPoints;
         if(vPoints.size() < 2)
             continue;
-        const int64_t Offset = SectionOf(vSections, 'T', i);
+        const int64_t Offset = Places.m_vTracks[i];
         for(const auto& [pName, Point] : {std::make_pair("start", vPoints.front()), std::make_pair("end", vPoints.back())})
         {
             if(NearestEye(Level, Point) > FAR_PLANE)

@@ -27,38 +27,20 @@ const CMissing MISSING_SECTIONS[] = {
     {'T', "no track: the level is won at once"},
 };
 
-bool HasSection(const std::vector<CSectionStart>& vSections, char cTag)
-{
-    return std::any_of(vSections.begin(), vSections.end(),
-                       [cTag](const CSectionStart& Section) { return (Section.m_cTag | 0x20) == (cTag | 0x20); });
-}
-
-int64_t FirstSection(const std::vector<CSectionStart>& vSections, char cTag)
-{
-    for(const CSectionStart& Section : vSections)
-    {
-        if((Section.m_cTag | 0x20) == (cTag | 0x20))
-            return Section.m_Offset;
-    }
-    return 0;
-}
-
 // A file that broke off lacks what stood behind the break; that is told once, where it broke.
-void CheckSections(const CLevel& Level, const std::vector<CSectionStart>& vSections, bool bWhole,
-                   std::vector<CDiagnostic>& vOut)
+void CheckSections(const CLevel& Level, const CSectionPlaces& Places, bool bWhole, std::vector<CDiagnostic>& vOut)
 {
     for(const CMissing& Missing : MISSING_SECTIONS)
     {
-        if(bWhole && !HasSection(vSections, Missing.m_cTag))
+        if(bWhole && Places.First(Missing.m_cTag) < 0)
             vOut.push_back({0, false, Missing.m_pText});
     }
-    const std::string Picture = std::string(BACKGROUND_FOLDER) + Level.m_szBackground;
+    const std::string Picture = NativePath((std::string(BACKGROUND_FOLDER) + Level.m_szBackground).c_str());
     std::error_code Ignored;
-    if(HasSection(vSections, 'B') && !std::filesystem::is_regular_file(NativePath(Picture.c_str()), Ignored))
-        vOut.push_back({FirstSection(vSections, 'B'), false, "the picture " + NativePath(Picture.c_str()) +
-                                                                  " does not exist"});
-    if(HasSection(vSections, 'P') && Level.m_Countdown.IsExpired())
-        vOut.push_back({FirstSection(vSections, 'P'), false, "a play time of 0: the level is lost at once"});
+    if(Places.First('B') >= 0 && !std::filesystem::is_regular_file(Picture, Ignored))
+        vOut.push_back({Places.First('B'), false, "the picture " + Picture + " does not exist"});
+    if(Places.First('P') >= 0 && Level.m_Countdown.IsExpired())
+        vOut.push_back({Places.First('P'), false, "a play time of 0: the level is lost at once"});
 }
 
 } // namespace
@@ -77,11 +59,12 @@ std::vector<CDiagnostic> CheckLevelText(const std::string& Text)
     const bool bWhole = Reader.Read();
     Level.FinishLoad();
 
+    const CSectionPlaces& Places = Recorder.Places();
     std::vector<CDiagnostic> vFound = std::move(Recorder.Diagnostics());
-    CheckSections(Level, Recorder.Sections(), bWhole, vFound);
-    CheckCurves(Level, Recorder.Sections(), vFound);
-    CheckCrossings(Level, Recorder.Sections(), vFound);
-    CheckSight(Level, Camera, Recorder.Sections(), vFound);
+    CheckSections(Level, Places, bWhole, vFound);
+    CheckCurves(Level, Places, vFound);
+    CheckCrossings(Level, Places, vFound);
+    CheckSight(Level, Camera, Places, vFound);
     std::stable_sort(vFound.begin(), vFound.end(),
                      [](const CDiagnostic& a, const CDiagnostic& b) { return a.m_Offset < b.m_Offset; });
     return vFound;

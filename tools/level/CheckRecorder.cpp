@@ -14,8 +14,22 @@ bool IsBlank(char c)
 
 void CCheckRecorder::OnSection(char cTag, std::streamoff Offset)
 {
-    m_vSections.push_back({cTag, Offset, m_Level.m_vTracks.size(), m_Level.m_vCameraPaths.size()});
+    NoteKeptCurves();
+    m_Places.m_vSections.push_back({cTag, Offset});
     m_bInStrayRun = false;
+}
+
+void CCheckRecorder::NoteKeptCurves()
+{
+    const int64_t Last = m_Places.m_vSections.empty() ? 0 : m_Places.m_vSections.back().m_Offset;
+    m_Places.m_vTracks.resize(m_Level.m_vTracks.size(), Last);
+    m_Places.m_vPaths.resize(m_Level.m_vCameraPaths.size(), Last);
+}
+
+const CSectionPlaces& CCheckRecorder::Places()
+{
+    NoteKeptCurves();
+    return m_Places;
 }
 
 // Everything from a stray byte up to the next section is skipped: that is one mistake, told once.

@@ -19,17 +19,21 @@ public:
     void OnBrokenOff(const std::string& Expected, std::streamoff Offset) override;
     void OnCut(const std::string& What, std::streamoff Offset) override;
 
-    const std::vector<CSectionStart>& Sections() const { return m_vSections; }
+    // Where the sections stood, once the reading is over: a curve kept by the last section is noted here.
+    const CSectionPlaces& Places();
     std::vector<CDiagnostic>& Diagnostics() { return m_vDiagnostics; }
 
 private:
     // The first byte that is not blank at or behind the offset: a number's place, not the space before it.
     int64_t TokenStart(std::streamoff Offset) const;
+    // A section adds a curve only when it is read whole: what the level gained since the last section began is
+    // that section's.
+    void NoteKeptCurves();
     std::string TokenAt(int64_t Offset) const;
 
     const CLevel& m_Level;
     const std::string& m_Text;
-    std::vector<CSectionStart> m_vSections;
+    CSectionPlaces m_Places;
     std::vector<CDiagnostic> m_vDiagnostics;
     bool m_bInStrayRun = false;
 };

@@ -11,12 +11,27 @@ struct CDiagnostic
     std::string m_Text;
 };
 
-// Where a section of the file began, and how many curves the level held before it was read, so that a kept
-// curve can be traced back to the section that made it.
-struct CSectionStart
+// Where the file's sections began, by tag letter as the file spells it, and which section made each track
+// and each camera path that the level kept.
+struct CSectionPlaces
 {
-    char m_cTag = 0;
-    int64_t m_Offset = 0;
-    size_t m_TracksBefore = 0;
-    size_t m_PathsBefore = 0;
+    struct CSection
+    {
+        char m_cTag;
+        int64_t m_Offset;
+    };
+    std::vector<CSection> m_vSections;
+    std::vector<int64_t> m_vTracks;
+    std::vector<int64_t> m_vPaths;
+
+    // The first section with that tag in either case, or -1 when the file has none.
+    int64_t First(char cTag) const
+    {
+        for(const CSection& Section : m_vSections)
+        {
+            if((Section.m_cTag | 0x20) == (cTag | 0x20))
+                return Section.m_Offset;
+        }
+        return -1;
+    }
 };
