@@ -22,13 +22,6 @@ struct CLevelStats
     double m_dCasualClockLosses = -1;
 };
 
-// A number inside one player's part of the report.
-double PlayerField(const std::string& Json, const std::string& Player, const std::string& Key)
-{
-    const size_t At = Json.find("\"" + Player + "\":");
-    return At == std::string::npos ? -1 : Field(Json.substr(At), Key);
-}
-
 CLevelStats Parse(const std::string& File, const std::string& Json)
 {
     CLevelStats Stats;

@@ -11,12 +11,6 @@ namespace
 const std::string LEVEL = "tests/data/level1.txt";
 constexpr int SEEDS = 3;
 
-double PlayerField(const std::string& Json, const std::string& Player, const std::string& Key)
-{
-    const size_t At = Json.find("\"" + Player + "\":");
-    return At == std::string::npos ? -1 : Field(Json.substr(At), Key);
-}
-
 // What the simulator says of the same player over the same seeds: wins and the median time of a win.
 void ExpectSameAsSimulator(const std::string& Stats, const std::string& Player, const std::string& Options)
 {

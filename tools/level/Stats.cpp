@@ -43,34 +43,32 @@ bool ParseStatsOptions(const std::vector<std::string>& vArgs, CStatsOptions& Opt
     return !Options.m_LevelFile.empty() || Reject(Error, "no level file given");
 }
 
+// One run of the simulator: a kind of player on a seed, or without one the player who never shoots.
+bool Play(const CStatsOptions& Stats, const CPlayerKind* pKind, uint32_t uiSeed, CSimResult& Result,
+          std::string& Reason)
+{
+    CSimOptions Options;
+    Options.m_LevelFile = Stats.m_LevelFile;
+    Options.m_uiRound = Stats.m_uiRound;
+    Options.m_uiSeed = uiSeed;
+    Options.m_bAutoplay = pKind != nullptr;
+    Options.m_uiPaceMs = pKind ? pKind->m_uiPaceMs : 0;
+    Options.m_fAimErrorDeg = pKind ? pKind->m_fAimErrorDeg : 0.0f;
+    CSimScript NoScript;
+    return RunSimulation(Options, NoScript, {}, Result, Reason);
+}
+
 // One player over every seed; false when the level can't be opened.
 bool PlayAllSeeds(const CStatsOptions& Stats, const CPlayerKind& Kind, CPlayerSummary& Summary, std::string& Reason)
 {
     for(uint32_t uiSeed = 1; uiSeed <= Stats.m_uiSeeds; uiSeed++)
     {
-        CSimOptions Options;
-        Options.m_LevelFile = Stats.m_LevelFile;
-        Options.m_uiRound = Stats.m_uiRound;
-        Options.m_uiSeed = uiSeed;
-        Options.m_bAutoplay = true;
-        Options.m_uiPaceMs = Kind.m_uiPaceMs;
-        Options.m_fAimErrorDeg = Kind.m_fAimErrorDeg;
-        CSimScript NoScript;
         CSimResult Result;
-        if(!RunSimulation(Options, NoScript, {}, Result, Reason))
+        if(!Play(Stats, &Kind, uiSeed, Result, Reason))
             return false;
         Summary.Add(Result);
     }
     return true;
-}
-
-bool PlayIdle(const CStatsOptions& Stats, CSimResult& Result, std::string& Reason)
-{
-    CSimOptions Options;
-    Options.m_LevelFile = Stats.m_LevelFile;
-    Options.m_uiRound = Stats.m_uiRound;
-    CSimScript NoScript;
-    return RunSimulation(Options, NoScript, {}, Result, Reason);
 }
 
 void WriteTracks(std::ostream& Stream, const CStatsOptions& Stats)
@@ -97,7 +95,7 @@ int RunStats(const std::vector<std::string>& vArgs)
         return FailLevelTool(Error + " (usage: trelvane-level stats FILE [--seeds N] [--round R])");
     CSimResult Idle;
     CPlayerSummary Expert(EXPERT_PLAYER), Casual(CASUAL_PLAYER);
-    if(!PlayIdle(Stats, Idle, Error) || !PlayAllSeeds(Stats, EXPERT_PLAYER, Expert, Error) ||
+    if(!Play(Stats, nullptr, 1, Idle, Error) || !PlayAllSeeds(Stats, EXPERT_PLAYER, Expert, Error) ||
        !PlayAllSeeds(Stats, CASUAL_PLAYER, Casual, Error))
         return FailLevelTool(Error);
     for(const std::string& Warning : Idle.m_vWarnings)
