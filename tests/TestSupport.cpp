@@ -1,6 +1,6 @@
 #include "TestSupport.h"
 
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 
 #include <array>
 #include <cstdio>

@@ -1,6 +1,6 @@
 #include "app/Clocks.h"
 
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 
 namespace
 {

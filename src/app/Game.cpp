@@ -1,8 +1,8 @@
 #include "app/Game.h"
 
 #include "gfx/Fonts.h"
-#include "platform/Clock.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/interfaces/ErrorBox.h"
 
 CGame* g_pGame = nullptr;
 IWindow* g_pWindow = nullptr;

@@ -2,13 +2,13 @@
 #include "app/MainLoop.h"
 #include "gfx/Fonts.h"
 #include "input/Input.h"
-#include "platform/Clock.h"
-#include "platform/ErrorBox.h"
-#include "platform/GlRenderDevice.h"
-#include "platform/SdlAudio.h"
-#include "platform/SdlInput.h"
-#include "platform/SdlWindow.h"
-#include "platform/SocketEvents.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/interfaces/ErrorBox.h"
+#include "platform/native/GlRenderDevice.h"
+#include "platform/native/SdlAudio.h"
+#include "platform/native/SdlInput.h"
+#include "platform/native/SdlWindow.h"
+#include "platform/native/SocketEvents.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,8 +2,8 @@
 
 #include "app/Game.h"
 #include "input/Input.h"
-#include "platform/SocketEvents.h"
-#include "platform/Window.h"
+#include "platform/native/SocketEvents.h"
+#include "platform/interfaces/Window.h"
 
 uint64_t RunMainLoop(CGame& Game, IWindow& Window, CSocketEvents& Sockets)
 {

@@ -3,8 +3,8 @@
 #include "app/Game.h"
 #include "input/Input.h"
 #include "input/KeyCodes.h"
-#include "platform/Clock.h"
-#include "platform/Window.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/interfaces/Window.h"
 
 #include <cctype>
 #include <string>

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/RenderDevice.h"
+#include "platform/interfaces/RenderDevice.h"
 
 #include <cstdint>
 #include <memory>

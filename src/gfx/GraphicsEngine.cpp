@@ -2,7 +2,7 @@
 
 #include "app/Game.h"
 #include "gfx/Fonts.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #include "gfx/AlphaPulse.h"
 #include "gfx/Sprites.h"
 #include "math/Vector.h"
-#include "platform/RenderDevice.h"
+#include "platform/interfaces/RenderDevice.h"
 
 #include <array>
 #include <functional>

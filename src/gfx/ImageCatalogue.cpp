@@ -1,7 +1,7 @@
 #include "gfx/GraphicsEngine.h"
 
 #include "input/Input.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 #include "math/Vector.h"
-#include "platform/RenderDevice.h"
+#include "platform/interfaces/RenderDevice.h"
 
 #include <cstdint>
 #include <list>

@@ -1,6 +1,6 @@
 #include "gfx/GraphicsEngine.h"
 
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 #include "play/Ball.h"
 #include "tracks/Level.h"
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/InputSource.h"
+#include "platform/interfaces/InputSource.h"
 
 #include <cstdint>
 
@@ -39,7 +39,7 @@ bool ReleaseInput();
 bool PollKeyboard();
 bool PollMouse();
 
-// Keys by DirectInput key code (input/KeyCodes.h); buttons 0 left, 1 right, 2 middle.
+// Keys by the game's key code (input/KeyCodes.h); buttons 0 left, 1 right, 2 middle.
 bool KeyDown(uint8_t byKey);
 bool KeyUp(uint8_t byKey);
 // True once when the key is let go. The latch only moves when this is called, so a caller sees a key only if it

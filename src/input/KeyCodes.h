@@ -1,8 +1,8 @@
 #pragma once
 #include <cstdint>
 
-// Keys are numbered by DirectInput's scan codes: the codes of the keys of a PC keyboard, with 0xE0-prefixed
-// keys at their code plus 0x80.
+// The game numbers keys by the scan codes of a PC keyboard (set 1), with the 0xE0-prefixed keys at their code
+// plus 0x80, so that one byte names any key and a table of 256 holds the whole keyboard.
 constexpr uint8_t DIK_ESCAPE = 0x01;
 constexpr uint8_t DIK_1 = 0x02;
 constexpr uint8_t DIK_2 = 0x03;

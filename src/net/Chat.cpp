@@ -1,7 +1,7 @@
 #include "net/Messages.h"
 #include "net/Network.h"
 #include "net/TextField.h"
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 
 #include <cstdio>
 #include <cstring>

@@ -3,7 +3,7 @@
 #include "net/Log.h"
 #include "net/Socket.h"
 #include "net/TextField.h"
-#include "platform/SocketEvents.h"
+#include "platform/native/SocketEvents.h"
 
 #include <algorithm>
 #include <iterator>

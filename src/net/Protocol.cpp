@@ -4,7 +4,7 @@
 #include "net/Network.h"
 #include "net/Socket.h"
 #include "net/TextField.h"
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 #include "powerups/PowerupTable.h"
 
 #include <cstdio>

@@ -1,8 +1,8 @@
 #include "net/Socket.h"
 
 #include "net/Log.h"
-#include "platform/Clock.h"
-#include "platform/SocketEvents.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/native/SocketEvents.h"
 
 #include <algorithm>
 #include <arpa/inet.h>

@@ -1,5 +1,5 @@
 #include "app/Game.h"
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 #include "powerups/PowerupManager.h"
 
 #include <algorithm>

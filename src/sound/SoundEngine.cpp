@@ -1,7 +1,7 @@
 #include "sound/SoundEngine.h"
 
-#include "platform/Audio.h"
-#include "platform/Paths.h"
+#include "platform/interfaces/Audio.h"
+#include "platform/interfaces/Paths.h"
 #include "sound/FolderSearch.h"
 
 #include <algorithm>

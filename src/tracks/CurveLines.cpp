@@ -1,7 +1,7 @@
 #include "tracks/CurveLines.h"
 
 #include "math/BSpline.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 
 #include <new>
 

@@ -1,7 +1,7 @@
 #include "tracks/GameFile.h"
 
-#include "platform/ErrorBox.h"
-#include "platform/Paths.h"
+#include "platform/interfaces/ErrorBox.h"
+#include "platform/interfaces/Paths.h"
 
 #include <cstdio>
 

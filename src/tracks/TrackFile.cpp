@@ -2,7 +2,7 @@
 
 #include "gfx/GraphicsEngine.h"
 #include "math/FloatBits.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 #include "tracks/GameFile.h"
 #include "tracks/Level.h"
 

@@ -1,5 +1,5 @@
 #include "app/Clocks.h"
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 
 #include <gtest/gtest.h>
 

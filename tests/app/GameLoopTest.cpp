@@ -2,10 +2,10 @@
 #include "app/Game.h"
 #include "app/MainLoop.h"
 #include "input/Input.h"
-#include "platform/Clock.h"
-#include "platform/ScriptedInput.h"
-#include "platform/SocketEvents.h"
-#include "platform/Window.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/twins/ScriptedInput.h"
+#include "platform/native/SocketEvents.h"
+#include "platform/interfaces/Window.h"
 
 #include <gtest/gtest.h>
 

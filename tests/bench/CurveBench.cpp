@@ -1,5 +1,5 @@
 #include "math/BSpline.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 #include "tracks/Level.h"
 #include "tracks/TrackList.h"
 

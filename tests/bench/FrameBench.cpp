@@ -1,8 +1,8 @@
 #include "app/Game.h"
 #include "gfx/Fonts.h"
-#include "platform/Clock.h"
-#include "platform/GlRenderDevice.h"
-#include "platform/SdlWindow.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/native/GlRenderDevice.h"
+#include "platform/native/SdlWindow.h"
 
 #include <benchmark/benchmark.h>
 

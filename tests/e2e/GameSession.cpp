@@ -1,6 +1,6 @@
 #include "e2e/GameSession.h"
 
-#include "platform/PngFile.h"
+#include "platform/native/PngFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "e2e/Screen.h"
 
-#include "platform/PngFile.h"
+#include "platform/native/PngFile.h"
 
 #include <cstdlib>
 #include <fstream>

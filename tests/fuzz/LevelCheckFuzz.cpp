@@ -1,5 +1,5 @@
 #include "level/CheckLevel.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 
 #include <string>
 

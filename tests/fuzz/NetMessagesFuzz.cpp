@@ -6,9 +6,9 @@
 #include "net/Messages.h"
 #include "net/Network.h"
 #include "net/Socket.h"
-#include "platform/Clock.h"
-#include "platform/ErrorBox.h"
-#include "platform/RecordingRenderDevice.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/interfaces/ErrorBox.h"
+#include "platform/twins/RecordingRenderDevice.h"
 #include "powerups/PowerupTable.h"
 
 #include <cerrno>

@@ -1,5 +1,5 @@
 #include "gfx/GraphicsEngine.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 #include "tracks/Level.h"
 #include "tracks/TrackFile.h"
 

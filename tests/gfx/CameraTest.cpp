@@ -1,5 +1,5 @@
 #include "app/Game.h"
-#include "platform/RecordingRenderDevice.h"
+#include "platform/twins/RecordingRenderDevice.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 #include "TestSupport.h"
 #include "app/Game.h"
 #include "gfx/Fonts.h"
-#include "platform/Clock.h"
-#include "platform/RecordingRenderDevice.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/twins/RecordingRenderDevice.h"
 
 #include <gtest/gtest.h>
 

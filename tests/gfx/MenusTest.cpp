@@ -1,7 +1,7 @@
 #include "gfx/EngineFixture.h"
 
 #include "input/Input.h"
-#include "platform/Audio.h"
+#include "platform/twins/RecordingAudio.h"
 
 #include <cstring>
 

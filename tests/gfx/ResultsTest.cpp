@@ -2,7 +2,7 @@
 
 #include "input/Input.h"
 #include "input/KeyCodes.h"
-#include "platform/ScriptedInput.h"
+#include "platform/twins/ScriptedInput.h"
 
 #include <cstdio>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "EngineFixture.h"
 
-#include "platform/SphereGeometry.h"
+#include "platform/interfaces/SphereGeometry.h"
 
 #include <cmath>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "input/Input.h"
 #include "input/KeyCodes.h"
-#include "platform/ScriptedInput.h"
+#include "platform/twins/ScriptedInput.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 #include "input/KeyCodes.h"
 #include "net/GameOnTheNetwork.h"
 #include "net/Messages.h"
-#include "platform/Clock.h"
-#include "platform/ScriptedInput.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/twins/ScriptedInput.h"
 
 namespace
 {

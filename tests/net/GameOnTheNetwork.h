@@ -1,7 +1,7 @@
 #pragma once
 #include "app/Game.h"
 #include "net/NetTestSupport.h"
-#include "platform/RecordingRenderDevice.h"
+#include "platform/twins/RecordingRenderDevice.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "TestSupport.h"
 #include "net/GameOnTheNetwork.h"
 #include "net/Messages.h"
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 
 #include <fstream>
 #include <regex>

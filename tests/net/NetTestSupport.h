@@ -1,6 +1,6 @@
 #pragma once
 #include "net/Network.h"
-#include "platform/SocketEvents.h"
+#include "platform/native/SocketEvents.h"
 
 #include <cstdint>
 #include <functional>

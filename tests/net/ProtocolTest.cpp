@@ -1,6 +1,6 @@
 #include "net/GameOnTheNetwork.h"
 #include "net/Messages.h"
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "input/Input.h"
 #include "input/KeyCodes.h"
 #include "net/Network.h"
-#include "platform/ScriptedInput.h"
+#include "platform/twins/ScriptedInput.h"
 
 #include <gtest/gtest.h>
 

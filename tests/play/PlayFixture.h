@@ -1,8 +1,8 @@
 #pragma once
 #include "app/Game.h"
-#include "platform/Audio.h"
-#include "platform/Clock.h"
-#include "platform/RecordingRenderDevice.h"
+#include "platform/twins/RecordingAudio.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/twins/RecordingRenderDevice.h"
 
 #include <gtest/gtest.h>
 

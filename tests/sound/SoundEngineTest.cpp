@@ -1,7 +1,7 @@
 #include "sound/SoundEngine.h"
 
 #include "TestSupport.h"
-#include "platform/Audio.h"
+#include "platform/twins/RecordingAudio.h"
 
 #include <gtest/gtest.h>
 

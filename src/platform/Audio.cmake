@@ -1,1 +1,0 @@
-target_sources(trelvane_platform PRIVATE platform/SdlAudio.cpp)

@@ -1,1 +1,0 @@
-target_sources(trelvane_core PRIVATE sound/FolderSearch.cpp)
