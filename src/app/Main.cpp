@@ -4,6 +4,7 @@
 #include "input/Input.h"
 #include "platform/interfaces/Clock.h"
 #include "platform/interfaces/ErrorBox.h"
+#include "platform/native/DataFolder.h"
 #include "platform/native/GlRenderDevice.h"
 #include "platform/native/SdlAudio.h"
 #include "platform/native/SdlInput.h"
@@ -12,6 +13,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 namespace
 {
@@ -47,6 +49,14 @@ int RunGame(CSdlWindow& Window)
 int main()
 {
     std::srand(timeGetTime()); // the one seeding: every rand of the game draws from this sequence
+    std::string MissingFolder;
+    if(!EnterDataFolder(MissingFolder))
+    {
+        // Without its data every picture, sound and level would fail one by one; one message says it all.
+        const std::string Text = "ERROR: " + MissingFolder + " doesn't exist.";
+        ShowErrorInMessageBox(Text.c_str());
+        return 1;
+    }
     CSdlWindow Window;
     const char* pReason = "";
     if(!Window.Create("Trelvane", &pReason))

@@ -2,9 +2,10 @@
 #include "bot/BotOptions.h"
 #include "bot/BotPlayer.h"
 #include "net/Log.h"
-#include "platform/Clock.h"
-#include "platform/RecordingRenderDevice.h"
-#include "platform/SocketEvents.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/twins/RecordingRenderDevice.h"
+#include "platform/native/DataFolder.h"
+#include "platform/native/SocketEvents.h"
 
 #include <csignal>
 #include <cstdio>
@@ -126,5 +127,9 @@ int main(int iArgCount, char** ppArgs)
         std::cout << BOT_HELP;
         return EXIT_SUCCESS;
     }
+    // The bot plays the levels of the game's data, installed or below the folder it is started in.
+    std::string MissingFolder;
+    if(!EnterDataFolder(MissingFolder))
+        std::cerr << "trelvane-bot: " << MissingFolder << " doesn't exist; no level can be loaded\n";
     return RunBot(Options);
 }

@@ -2,8 +2,8 @@
 
 #include "app/Game.h"
 #include "net/TextField.h"
-#include "platform/Clock.h"
-#include "platform/SocketEvents.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/native/SocketEvents.h"
 #include "sim/PlayerInput.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "app/Game.h"
 #include "common/Json.h"
-#include "platform/Clock.h"
+#include "platform/interfaces/Clock.h"
 
 namespace
 {

@@ -2,7 +2,7 @@
 // form compilers use, so that an editor can jump to it.
 #include "level/CheckLevel.h"
 #include "level/LevelCommands.h"
-#include "platform/ErrorBox.h"
+#include "platform/interfaces/ErrorBox.h"
 
 #include <filesystem>
 #include <fstream>

@@ -4,7 +4,7 @@
 #include "level/SegmentDistance.h"
 #include "play/Ball.h"
 #include "play/ChainLogic.h"
-#include "platform/GameMatrix.h"
+#include "platform/interfaces/GameMatrix.h"
 #include "tracks/Level.h"
 
 #include <cmath>

@@ -3,7 +3,7 @@
 #include "gfx/GraphicsEngine.h"
 #include "level/CheckGeometry.h"
 #include "level/CheckRecorder.h"
-#include "platform/Paths.h"
+#include "platform/interfaces/Paths.h"
 #include "tracks/Level.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
-#include "platform/GlRenderDevice.h"
-#include "platform/SdlWindow.h"
+#include "platform/native/GlRenderDevice.h"
+#include "platform/native/SdlWindow.h"
 
 #include <cstdint>
 #include <memory>

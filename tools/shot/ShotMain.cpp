@@ -2,9 +2,9 @@
 // frames of play, or a menu screen.
 #include "app/Game.h"
 #include "net/Log.h"
-#include "platform/Clock.h"
-#include "platform/GameMatrix.h"
-#include "platform/PngFile.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/interfaces/GameMatrix.h"
+#include "platform/native/PngFile.h"
 #include "shot/FrameGrab.h"
 #include "shot/ShotOptions.h"
 

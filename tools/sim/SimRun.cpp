@@ -2,9 +2,9 @@
 
 #include "app/Game.h"
 #include "net/Log.h"
-#include "platform/Clock.h"
-#include "platform/ErrorBox.h"
-#include "platform/RecordingRenderDevice.h"
+#include "platform/interfaces/Clock.h"
+#include "platform/interfaces/ErrorBox.h"
+#include "platform/twins/RecordingRenderDevice.h"
 #include "sim/Autoplay.h"
 #include "sim/SimReport.h"
 #include "sim/SimScript.h"

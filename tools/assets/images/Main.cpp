@@ -1,13 +1,16 @@
 // trelvane-images: draws every picture the game loads, from code, and writes them below a data folder.
 //
 //   trelvane-images OUT_DATA_DIR [--contact-sheet FILE.png]
+//   trelvane-images --icon SIZE FILE.png
 //
 // writes OUT_DATA_DIR/menus/images/*.png, OUT_DATA_DIR/hud/images/*.png (the HUD, the ball icons, the faces
 // and the level backgrounds) and OUT_DATA_DIR/hud/images/flare.tga. With --contact-sheet it also writes one
-// PNG that shows all of them with their file names. The output depends on nothing but this code and the
+// PNG that shows all of them with their file names. With --icon it writes only the game's desktop icon,
+// SIZE pixels square (16 to 1024). The output depends on nothing but this code and the
 // DejaVu fonts: no clock and no unseeded randomness, so two runs write identical files. Software drawing
 // only; no window is opened. On any failure (a missing font, a folder that can't be written) it prints one
 // line on stderr and exits with 1; with wrong arguments it prints the usage and exits with 2.
+#include "AppIcon.h"
 #include "Catalogue.h"
 #include "ContactSheet.h"
 #include "PngFile.h"
@@ -17,6 +20,7 @@
 #include <SDL.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -26,10 +30,27 @@ namespace {
 struct Options {
     std::string dataDir;
     std::string contactSheet; // empty when none is wanted
+    int iconSize = 0;         // above 0: write only the icon, to iconFile
+    std::string iconFile;
 };
+
+bool parseIcon(int argc, char **argv, Options &options)
+{
+    if (argc != 4)
+        return false;
+    char *end = nullptr;
+    long size = std::strtol(argv[2], &end, 10);
+    if (*end != '\0' || size < 16 || size > 1024)
+        return false;
+    options.iconSize = static_cast<int>(size);
+    options.iconFile = argv[3];
+    return true;
+}
 
 bool parse(int argc, char **argv, Options &options)
 {
+    if (argc > 1 && std::string(argv[1]) == "--icon")
+        return parseIcon(argc, argv, options);
     for (int i = 1; i < argc; ++i) {
         std::string arg = argv[i];
         if (arg == "--contact-sheet" && i + 1 < argc)
@@ -61,6 +82,10 @@ void writePicture(const art::Canvas &canvas, const std::filesystem::path &file)
 
 void run(const Options &options)
 {
+    if (options.iconSize > 0) {
+        writePicture(art::appIcon(options.iconSize), options.iconFile);
+        return;
+    }
     art::openFonts();
     art::ContactSheet sheet;
     for (const art::Picture &picture : art::catalogue()) {
@@ -80,7 +105,7 @@ int main(int argc, char **argv)
 {
     Options options;
     if (!parse(argc, argv, options)) {
-        std::fprintf(stderr, "usage: trelvane-images OUT_DATA_DIR [--contact-sheet FILE.png]\n");
+        std::fprintf(stderr, "usage: trelvane-images OUT_DATA_DIR [--contact-sheet FILE.png] | --icon SIZE FILE.png\n");
         return 2;
     }
     try {
