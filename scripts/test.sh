@@ -1,15 +1,14 @@
 #!/usr/bin/env bash
 # Installs what is missing, then builds and runs the whole test suite twice: an optimised build with the
-# benchmarks' smoke run, and a clang build under AddressSanitizer and UndefinedBehaviorSanitizer that also
-# runs every fuzz target for a few seconds.
+# benchmarks' smoke run, the style checks and the installation and package checks, and a clang build under
+# AddressSanitizer and UndefinedBehaviorSanitizer that also runs every fuzz target for a few seconds.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-bash scripts/install-deps.sh
+bash scripts/install-deps.sh tests
 jobs=$(nproc)
 
-cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+cmake -S . -B build/release -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTRELVANE_TESTS=ON -DTRELVANE_BENCH=ON
 cmake --build build/release -j "$jobs"
-bash scripts/make-assets.sh build/release
 ctest --test-dir build/release --output-on-failure -j "$jobs"
 
 CC=clang CXX=clang++ cmake -S . -B build/sanitize -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
