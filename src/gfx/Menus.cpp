@@ -32,8 +32,8 @@ constexpr int32_t ADDRESS_Y = 218;
 
 struct CMousePoint
 {
-    int32_t iX;
-    int32_t iY;
+    int32_t m_iX;
+    int32_t m_iY;
 };
 
 // The head of every screen with buttons: the frame's one mouse reading, as reading moves the cursor, then
@@ -41,8 +41,8 @@ struct CMousePoint
 CMousePoint BeginScreen(CGraphicsEngine& Engine, ESprite Background)
 {
     CMousePoint Mouse;
-    Mouse.iX = static_cast<int32_t>(GetMouseX());
-    Mouse.iY = static_cast<int32_t>(GetMouseY());
+    Mouse.m_iX = static_cast<int32_t>(GetMouseX());
+    Mouse.m_iY = static_cast<int32_t>(GetMouseY());
     Engine.m_nPrevHotSpot = Engine.m_nHotSpot;
     Engine.m_nHotSpot = HOT_NOTHING;
     Engine.DrawSprite(Engine.m_aSprites[Background]);
@@ -61,14 +61,14 @@ bool InSpan(int32_t iValue, uint32_t uiLow, uint32_t uiSpan, bool bEdges)
 // A button's rectangle holds both its edges.
 bool OnRectangle(const CSprite& Sprite, const CMousePoint& Mouse)
 {
-    return InSpan(Mouse.iX, Sprite.m_nX, Sprite.m_nWidth, true) &&
-           InSpan(Mouse.iY, Sprite.m_nY, Sprite.m_nHeight, true);
+    return InSpan(Mouse.m_iX, Sprite.m_nX, Sprite.m_nWidth, true) &&
+           InSpan(Mouse.m_iY, Sprite.m_nY, Sprite.m_nHeight, true);
 }
 
 bool InsideRectangle(const CSprite& Sprite, const CMousePoint& Mouse)
 {
-    return InSpan(Mouse.iX, Sprite.m_nX, Sprite.m_nWidth, false) &&
-           InSpan(Mouse.iY, Sprite.m_nY, Sprite.m_nHeight, false);
+    return InSpan(Mouse.m_iX, Sprite.m_nX, Sprite.m_nWidth, false) &&
+           InSpan(Mouse.m_iY, Sprite.m_nY, Sprite.m_nHeight, false);
 }
 
 // Over picture and hot spot under the mouse, normal picture elsewhere. The hover sound plays as the mouse
@@ -128,7 +128,7 @@ void UpdateHighlight(CGraphicsEngine& Engine, const CMousePoint& Mouse)
     const CSprite& Area = Engine.m_aSprites[SPR_LIST_AREA];
     if(!InsideRectangle(Area, Mouse))
         return;
-    const uint32_t uiIndex = (static_cast<uint32_t>(Mouse.iY) - Area.m_nY) / ROW_HEIGHT + Engine.m_nFirstVisibleTrack;
+    const uint32_t uiIndex = (static_cast<uint32_t>(Mouse.m_iY) - Area.m_nY) / ROW_HEIGHT + Engine.m_nFirstVisibleTrack;
     if(uiIndex >= TrackCount())
         return;
     Engine.m_nHighlightRow = uiIndex - Engine.m_nFirstVisibleTrack;

@@ -4,6 +4,7 @@
 #include "tracks/CurveLines.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -16,7 +17,7 @@ constexpr float POINT_SCALE_C = 1.0f;
 
 uint32_t ColourChannel(float fValue, int iShift)
 {
-    return static_cast<uint32_t>(std::clamp(fValue, 0.0f, 1.0f) * 255.0f + 0.5f) << iShift;
+    return static_cast<uint32_t>(std::lround(std::clamp(fValue, 0.0f, 1.0f) * 255.0f)) << iShift;
 }
 
 CLineVertex ToVertex(const CParticle& Particle)

@@ -91,7 +91,7 @@ bool PayloadFits(const CNetMessage& Message)
 
 void WritePlayerEntry(uint8_t* pPayload, uint32_t uiEntry, const CPlayerSlot& Slot)
 {
-    uint8_t* p = pPayload + 4 + 8 * uiEntry;
+    uint8_t* p = pPayload + 4 + 8 * static_cast<size_t>(uiEntry);
     WriteU32(p, Slot.m_nId);
     p[4] = Slot.m_bPresent ? 1 : 0;
     p[5] = Slot.m_bFinished ? 1 : 0;
@@ -101,7 +101,7 @@ void WritePlayerEntry(uint8_t* pPayload, uint32_t uiEntry, const CPlayerSlot& Sl
 
 CPlayerSlot ReadPlayerEntry(const uint8_t* pPayload, uint32_t uiEntry)
 {
-    const uint8_t* p = pPayload + 4 + 8 * uiEntry;
+    const uint8_t* p = pPayload + 4 + 8 * static_cast<size_t>(uiEntry);
     CPlayerSlot Slot;
     Slot.m_nId = ReadU32(p);
     Slot.m_bPresent = p[4] != 0;

@@ -115,7 +115,7 @@ void CNetwork::ApplyScoreTable(const uint8_t* pPayload)
         return;
     }
     for(uint32_t i = 0; i < uiCount; i++)
-        m_Scores[i] = ReadScoreRow(pPayload + 4 + SCORE_ROW_SIZE * i);
+        m_Scores[i] = ReadScoreRow(pPayload + 4 + SCORE_ROW_SIZE * static_cast<size_t>(i));
 }
 
 // Every update of a client sends the whole table to all clients.
@@ -134,6 +134,6 @@ void CNetwork::OnScoreUpdate(const uint8_t* pPayload)
     const uint32_t uiCount = std::min<uint32_t>(m_nPlayers, TABLE_ENTRIES);
     WriteU32(aPayload, uiCount);
     for(uint32_t i = 0; i < uiCount; i++)
-        WriteScoreRow(aPayload + 4 + SCORE_ROW_SIZE * i, m_Scores[i]);
+        WriteScoreRow(aPayload + 4 + SCORE_ROW_SIZE * static_cast<size_t>(i), m_Scores[i]);
     SendToAll(CNetMessage{SCORE_TABLE_SIZE, NET_SCORE_TABLE, 0, 0, aPayload});
 }

@@ -12,5 +12,5 @@ public:
     virtual bool HandleOneEvent() = 0;
     virtual void Destroy() = 0;
     // Who receives the characters the player types (the game's typed-character handling).
-    virtual void SetCharHandler(std::function<void(char)> fnOnChar) { (void)fnOnChar; }
+    virtual void SetCharHandler(const std::function<void(char)>& /*fnOnChar*/) {}
 };

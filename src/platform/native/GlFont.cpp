@@ -6,6 +6,7 @@
 #include <SDL_ttf.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -44,7 +45,7 @@ int PointsForCell(TTF_Font* pFont, int iHeight)
 // The rendered line narrowed to the layout's width, smoothly.
 CSurfacePtr Narrowed(SDL_Surface* pLine)
 {
-    const int iWidth = std::max(1, static_cast<int>(pLine->w * WIDTH_TO_LAYOUT + 0.5));
+    const int iWidth = std::max(1, static_cast<int>(std::lround(pLine->w * WIDTH_TO_LAYOUT)));
     CSurfacePtr pNarrow(SDL_CreateRGBSurfaceWithFormat(0, iWidth, pLine->h, 32, pLine->format->format));
     if(pNarrow && SDL_SoftStretchLinear(pLine, nullptr, pNarrow.get(), nullptr) != 0)
         pNarrow.reset();

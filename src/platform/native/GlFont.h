@@ -1,10 +1,11 @@
 #pragma once
 #include "platform/native/GlTexture.h"
 
+#include <SDL_ttf.h>
+
 #include <string>
 #include <unordered_map>
 
-typedef struct _TTF_Font TTF_Font;
 class CGlRenderDevice;
 
 // Text in DejaVu Sans, the size chosen so that its cell is as tall as the game asked. The game draws the same

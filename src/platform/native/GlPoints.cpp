@@ -19,7 +19,7 @@ constexpr float MAX_POINT_SIZE = 64.0f;
 struct CCorner
 {
     float x, y, z;
-    uint32_t uiColour;
+    uint32_t m_uiColour;
     float u, v;
 };
 

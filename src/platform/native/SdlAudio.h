@@ -1,10 +1,9 @@
 #pragma once
 #include "platform/interfaces/Audio.h"
 
-#include <vector>
+#include <SDL_mixer.h>
 
-struct Mix_Chunk;
-typedef struct _Mix_Music Mix_Music;
+#include <vector>
 
 // The audio device on SDL_mixer: effects on 32 mixing channels, music on the mixer's own music stream. It
 // closes whatever it opened when it goes.

@@ -44,7 +44,7 @@ bool CSdlWindow::Create(const char* pTitle, const char** ppError, bool bHidden)
         return false;
     }
     m_bOpen = true;
-    SDL_GL_SetSwapInterval(1); // fails under a virtual display, which is harmless
+    SDL_GL_SetSwapInterval(1);          // fails under a virtual display, which is harmless
     SDL_SetRelativeMouseMode(SDL_TRUE); // the game draws its own cursor and reads relative counts
     SDL_StartTextInput();
     return true;
@@ -93,10 +93,17 @@ void CSdlWindow::TypeCharacters(const SDL_Event& Event)
     {
         switch(Event.key.keysym.sym)
         {
-        case SDLK_ESCAPE: m_fnOnChar(ESCAPE); break;
-        case SDLK_BACKSPACE: m_fnOnChar(BACKSPACE); break;
-        case SDLK_RETURN: m_fnOnChar(RETURN); break;
-        default: break;
+        case SDLK_ESCAPE:
+            m_fnOnChar(ESCAPE);
+            break;
+        case SDLK_BACKSPACE:
+            m_fnOnChar(BACKSPACE);
+            break;
+        case SDLK_RETURN:
+            m_fnOnChar(RETURN);
+            break;
+        default:
+            break;
         }
     }
 }
@@ -127,9 +134,9 @@ void ShowErrorInMessageBox(const char* pText)
     SDL_ShowSimpleMessageBox(SDL_MESSAGEBOX_WARNING, "Trelvane", pText, nullptr);
 }
 
-void CSdlWindow::SetCharHandler(std::function<void(char)> fnOnChar)
+void CSdlWindow::SetCharHandler(const std::function<void(char)>& fnOnChar)
 {
-    m_fnOnChar = std::move(fnOnChar);
+    m_fnOnChar = fnOnChar;
 }
 
 void CSdlWindow::AddListener(CEventListener fnListener)

@@ -21,7 +21,7 @@ public:
     bool IsOpen() const override;
     bool HandleOneEvent() override;
     void Destroy() override;
-    void SetCharHandler(std::function<void(char)> fnOnChar) override;
+    void SetCharHandler(const std::function<void(char)>& fnOnChar) override;
 
     void AddListener(CEventListener fnListener);
     void SwapBuffers();
