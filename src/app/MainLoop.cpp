@@ -2,13 +2,14 @@
 
 #include "app/Game.h"
 #include "input/Input.h"
-#include "platform/native/SocketEvents.h"
 #include "platform/interfaces/Window.h"
+#include "platform/native/SocketEvents.h"
 
 uint64_t RunMainLoop(CGame& Game, IWindow& Window, CSocketEvents& Sockets)
 {
-    const CSocketEvents::CHandler fnToNetwork = [&Game](int Socket, uint32_t uiEvent)
-    { Game.m_Network.OnSocketEvent(Socket, uiEvent); };
+    const CSocketEvents::CHandler fnToNetwork = [&Game](int Socket, uint32_t uiEvent) {
+        Game.m_Network.OnSocketEvent(Socket, uiEvent);
+    };
     uint64_t ulFrames = 0;
     while(Window.IsOpen())
     {

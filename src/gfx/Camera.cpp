@@ -133,5 +133,6 @@ CMatrixData LookAtLH(const CPoint3& Eye, const CPoint3& At, const CVector3& Up)
     x.Normalize();
     const CVector3 y = Cross(z, x);
     const CVector3 e = Eye - CPoint3(0.0f, 0.0f, 0.0f);
-    return {x.x(), y.x(), z.x(), 0, x.y(), y.y(), z.y(), 0, x.z(), y.z(), z.z(), 0, -Dot(x, e), -Dot(y, e), -Dot(z, e), 1};
+    return {x.x(), y.x(), z.x(), 0, x.y(),      y.y(),      z.y(),      0,
+            x.z(), y.z(), z.z(), 0, -Dot(x, e), -Dot(y, e), -Dot(z, e), 1};
 }

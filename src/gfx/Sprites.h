@@ -17,7 +17,7 @@ struct CSprite
 {
     uint32_t m_nX = 0;
     uint32_t m_nY = 0;
-    uint32_t m_nWidth = 0;  // of the hot rectangle, not of the picture
+    uint32_t m_nWidth = 0; // of the hot rectangle, not of the picture
     uint32_t m_nHeight = 0;
     std::unique_ptr<IVertexBuffer> m_pVB; // lives only while the sprite is drawn
     CImage* m_pImage = nullptr;           // what it shows now; null shows nothing

@@ -4,7 +4,6 @@
 #include "play/Ball.h"
 #include "tracks/Level.h"
 
-
 namespace
 {
 constexpr float BALL_SCALE = 1.38f; // the unit sphere grown to the size at which neighbours touch
@@ -13,9 +12,9 @@ const CPoint3 ORIGIN(0.0f, 0.0f, 0.0f);
 
 // The world's axes, each way from the origin: bright towards the positive end, dark towards the negative.
 const CLineVertex AXES[12] = {
-    {0, 0, 0, 0xFFFF0000}, {100, 0, 0, 0xFFFF0000},  {0, 0, 0, 0xFF640000}, {-100, 0, 0, 0xFF640000},
-    {0, 0, 0, 0xFF00FF00}, {0, 100, 0, 0xFF00FF00},  {0, 0, 0, 0xFF006400}, {0, -100, 0, 0xFF006400},
-    {0, 0, 0, 0xFF0000FF}, {0, 0, 100, 0xFF0000FF},  {0, 0, 0, 0xFF000064}, {0, 0, -100, 0xFF000064},
+    {0, 0, 0, 0xFFFF0000}, {100, 0, 0, 0xFFFF0000}, {0, 0, 0, 0xFF640000}, {-100, 0, 0, 0xFF640000},
+    {0, 0, 0, 0xFF00FF00}, {0, 100, 0, 0xFF00FF00}, {0, 0, 0, 0xFF006400}, {0, -100, 0, 0xFF006400},
+    {0, 0, 0, 0xFF0000FF}, {0, 0, 100, 0xFF0000FF}, {0, 0, 0, 0xFF000064}, {0, 0, -100, 0xFF000064},
 };
 } // namespace
 

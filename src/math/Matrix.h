@@ -13,10 +13,22 @@ public:
     T& At(int Row, int Col) { return m_aElem[Row * N + Col]; }
     T At(int Row, int Col) const { return m_aElem[Row * N + Col]; }
 
-    TMatrix operator+(const TMatrix& B) const { return ElementWise<TMatrix>(*this, B, [](T a, T b) { return static_cast<T>(a + b); }); }
-    TMatrix operator-(const TMatrix& B) const { return ElementWise<TMatrix>(*this, B, [](T a, T b) { return static_cast<T>(a - b); }); }
-    TMatrix operator*(T s) const { return ElementWise<TMatrix>(*this, *this, [s](T a, T) { return static_cast<T>(a * s); }); }
-    TMatrix operator/(T s) const { return ElementWise<TMatrix>(*this, *this, [s](T a, T) { return static_cast<T>(a / s); }); }
+    TMatrix operator+(const TMatrix& B) const
+    {
+        return ElementWise<TMatrix>(*this, B, [](T a, T b) { return static_cast<T>(a + b); });
+    }
+    TMatrix operator-(const TMatrix& B) const
+    {
+        return ElementWise<TMatrix>(*this, B, [](T a, T b) { return static_cast<T>(a - b); });
+    }
+    TMatrix operator*(T s) const
+    {
+        return ElementWise<TMatrix>(*this, *this, [s](T a, T) { return static_cast<T>(a * s); });
+    }
+    TMatrix operator/(T s) const
+    {
+        return ElementWise<TMatrix>(*this, *this, [s](T a, T) { return static_cast<T>(a / s); });
+    }
     TMatrix& operator+=(const TMatrix& B) { return *this = *this + B; }
     TMatrix& operator-=(const TMatrix& B) { return *this = *this - B; }
     TMatrix& operator*=(T s) { return *this = *this * s; }

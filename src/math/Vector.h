@@ -26,12 +26,28 @@ public:
     const T& operator[](int i) const { return m_aElem[i]; }
     T& x() { return m_aElem[0]; }
     T& y() { return m_aElem[1]; }
-    T& z() { static_assert(Count >= 3, "no z in two dimensions"); return m_aElem[2]; }
-    T& w() { static_assert(Count >= 4, "w exists in four dimensions only"); return m_aElem[3]; }
+    T& z()
+    {
+        static_assert(Count >= 3, "no z in two dimensions");
+        return m_aElem[2];
+    }
+    T& w()
+    {
+        static_assert(Count >= 4, "w exists in four dimensions only");
+        return m_aElem[3];
+    }
     T x() const { return m_aElem[0]; }
     T y() const { return m_aElem[1]; }
-    T z() const { static_assert(Count >= 3, "no z in two dimensions"); return m_aElem[2]; }
-    T w() const { static_assert(Count >= 4, "w exists in four dimensions only"); return m_aElem[3]; }
+    T z() const
+    {
+        static_assert(Count >= 3, "no z in two dimensions");
+        return m_aElem[2];
+    }
+    T w() const
+    {
+        static_assert(Count >= 4, "w exists in four dimensions only");
+        return m_aElem[3];
+    }
 
     bool operator==(const D& Other) const
     {

@@ -37,8 +37,7 @@ bool CNetwork::SpeaksForOwnSlot(const CNetMessage& Message, uint32_t uiSource) c
         const CScoreRow Row = ReadScoreRow(Message.m_pData);
         if(uiNumber == 0 || Row.m_nNumber != uiNumber || Row.m_nId != uiSource)
         {
-            Log("error: NET_SCORE_UPDATE from client %u for row %u of %u dropped", uiSource, Row.m_nNumber,
-                Row.m_nId);
+            Log("error: NET_SCORE_UPDATE from client %u for row %u of %u dropped", uiSource, Row.m_nNumber, Row.m_nId);
             return false;
         }
     }

@@ -44,8 +44,8 @@ void CNetwork::SendLobbyChat()
     m_nLobbyLines++;
     char szLine[LINE_BUFFER_CHARS];
     FormatChatLine(szLine, m_szLobbyInput);
-    const CNetMessage Message{static_cast<uint32_t>(std::strlen(szLine) + 1), NET_LOBBY_CHAT, m_nMyId,
-                              m_nLobbyLines, reinterpret_cast<uint8_t*>(szLine)};
+    const CNetMessage Message{static_cast<uint32_t>(std::strlen(szLine) + 1), NET_LOBBY_CHAT, m_nMyId, m_nLobbyLines,
+                              reinterpret_cast<uint8_t*>(szLine)};
     if(IsHost())
     {
         AddLobbyLine(szLine);

@@ -80,7 +80,7 @@ struct CMessageInfo
     ENetSender m_eSender;
     ENetPayload m_ePayload;
     ENetRelay m_eRelay;
-    const char* m_pNotice;                 // what the target of a powerup is shown, with the sender's number
+    const char* m_pNotice;                  // what the target of a powerup is shown, with the sender's number
     void (CPowerupManager::*m_pfnEffect)(); // what a powerup does on the target's level; null for nothing
 };
 

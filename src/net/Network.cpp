@@ -6,9 +6,9 @@
 #include "platform/native/SocketEvents.h"
 
 #include <algorithm>
-#include <iterator>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <new>
 
 namespace
@@ -34,8 +34,8 @@ CNetwork::~CNetwork()
 }
 
 // A frame limit above what a message loop can take is held to it: no peer could read such a frame anyway.
-bool CNetwork::Init(CSocketEvents* pEvents, uint32_t uiMode, uint32_t uiPort, const char* pAddress,
-                    uint32_t uiMaxSize, uint32_t uiMaxClients)
+bool CNetwork::Init(CSocketEvents* pEvents, uint32_t uiMode, uint32_t uiPort, const char* pAddress, uint32_t uiMaxSize,
+                    uint32_t uiMaxClients)
 {
     Log("calling initialization");
     if(m_pSocket)

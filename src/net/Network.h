@@ -7,8 +7,8 @@
 class CSocket;
 class CSocketEvents;
 
-constexpr int MAX_PLAYERS = 8;      // slots of the player table and rows of the score table
-constexpr uint32_t MAX_LISTED = 7;  // players a table lists: the last slot stays empty
+constexpr int MAX_PLAYERS = 8;     // slots of the player table and rows of the score table
+constexpr uint32_t MAX_LISTED = 7; // players a table lists: the last slot stays empty
 constexpr int MAX_CLIENT_SLOTS = 256;
 constexpr size_t CHAT_LINE_CHARS = 70;
 constexpr size_t LOBBY_LINE_CHARS = 40;
@@ -136,9 +136,9 @@ public:
     CPlayerSlot m_Players[MAX_PLAYERS];
     CScoreRow m_Scores[MAX_PLAYERS];
     uint32_t m_nPlayers = 1;
-    int32_t m_nTarget = -1;          // id of the chosen powerup target, -1 for the player itself
-    float m_fUpdateTimer = 1000.0f;  // milliseconds to the first score update
-    float m_fDanger = 0.0f;          // how far this player's worst chain has come, 0 to 1
+    int32_t m_nTarget = -1;         // id of the chosen powerup target, -1 for the player itself
+    float m_fUpdateTimer = 1000.0f; // milliseconds to the first score update
+    float m_fDanger = 0.0f;         // how far this player's worst chain has come, 0 to 1
     char m_szChatLine[CHAT_LINE_CHARS] = {};
     char m_szChatInput[CHAT_LINE_CHARS] = {};
     char m_szChatBackup[CHAT_LINE_CHARS] = {};

@@ -27,9 +27,9 @@ const CKey LETTER_KEYS[] = {
 
 // The digits and the full stop are all the address editor knows.
 const CKey NUMBER_KEYS[] = {
-    {DIK_0, DIK_NUMPAD0, '0', ')'}, {DIK_1, DIK_NUMPAD1, '1', '!'}, {DIK_2, DIK_NUMPAD2, '2', '@'},
-    {DIK_3, DIK_NUMPAD3, '3', '#'}, {DIK_4, DIK_NUMPAD4, '4', '$'}, {DIK_5, DIK_NUMPAD5, '5', '%'},
-    {DIK_6, DIK_NUMPAD6, '6', '^'}, {DIK_7, DIK_NUMPAD7, '7', '&'}, {DIK_8, DIK_NUMPAD8, '8', '*'},
+    {DIK_0, DIK_NUMPAD0, '0', ')'}, {DIK_1, DIK_NUMPAD1, '1', '!'},      {DIK_2, DIK_NUMPAD2, '2', '@'},
+    {DIK_3, DIK_NUMPAD3, '3', '#'}, {DIK_4, DIK_NUMPAD4, '4', '$'},      {DIK_5, DIK_NUMPAD5, '5', '%'},
+    {DIK_6, DIK_NUMPAD6, '6', '^'}, {DIK_7, DIK_NUMPAD7, '7', '&'},      {DIK_8, DIK_NUMPAD8, '8', '*'},
     {DIK_9, DIK_NUMPAD9, '9', '('}, {DIK_PERIOD, DIK_DECIMAL, '.', '>'},
 };
 

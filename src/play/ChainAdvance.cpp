@@ -94,7 +94,8 @@ void CChainLogic::MovePusher(CTrack& Track, float fStep)
     const float f = Pusher.m_vDirection.x() - static_cast<float>(Pusher.m_uiPoint) * POINT_SPACING;
     if(Pusher.m_uiPoint >= Track.m_Spline.m_uiNumPoints - 1)
         return;
-    Pusher.m_Position = Track.m_Spline.m_vPoints[Pusher.m_uiPoint] + SegmentDirection(Track.m_Spline.m_vPoints, Pusher.m_uiPoint) * f;
+    Pusher.m_Position =
+        Track.m_Spline.m_vPoints[Pusher.m_uiPoint] + SegmentDirection(Track.m_Spline.m_vPoints, Pusher.m_uiPoint) * f;
 }
 
 void CChainLogic::UpdateChains()

@@ -101,7 +101,8 @@ void CChainLogic::InsertShot(CTrack& Track, CBallIter itBall, CBallIter itShot)
     const std::vector<CPoint3>& vPoints = Track.m_Spline.m_vPoints;
     const uint32_t uiLeadPoint = std::min<uint32_t>((*itLead)->m_uiPoint, Track.m_Spline.m_uiNumPoints - 1);
     uint32_t uiPoint = uiLeadPoint;
-    while(uiPoint + 1 < Track.m_Spline.m_uiNumPoints && Distance(vPoints[uiPoint], vPoints[uiLeadPoint]) < BALL_DIAMETER)
+    while(uiPoint + 1 < Track.m_Spline.m_uiNumPoints &&
+          Distance(vPoints[uiPoint], vPoints[uiLeadPoint]) < BALL_DIAMETER)
         uiPoint++;
     pFresh->m_Position = vPoints[uiPoint];
     pFresh->m_uiPoint = uiPoint;

@@ -10,7 +10,7 @@ struct CPowerupInfo
     const char* m_pName;
     const char* m_pDescription;
     uint32_t m_uiMessageType;
-    int m_iSingleRoll;                    // which roll of five earns it in single play; -1 never
+    int m_iSingleRoll;                      // which roll of five earns it in single play; -1 never
     void (CPowerupManager::*m_pfnEffect)(); // what it does to the own level; null for none
 };
 

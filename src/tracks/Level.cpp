@@ -59,8 +59,8 @@ void CLevel::MoveForward(uint32_t uiSteps)
     const uint32_t uiNumPoints = pPath->m_Spline.m_uiNumPoints;
     // Added in 64 bits so that a huge step cannot wrap round to the start of the path.
     const uint64_t ulTarget = static_cast<uint64_t>(pPath->m_uiPosition) + uiSteps;
-    pPath->m_uiPosition = ulTarget >= uiNumPoints ? (uiNumPoints > 0 ? uiNumPoints - 1 : 0)
-                                                  : static_cast<uint32_t>(ulTarget);
+    pPath->m_uiPosition =
+        ulTarget >= uiNumPoints ? (uiNumPoints > 0 ? uiNumPoints - 1 : 0) : static_cast<uint32_t>(ulTarget);
 }
 
 void CLevel::MoveBack(uint32_t uiSteps)

@@ -11,7 +11,7 @@
 class CGraphicsEngine;
 
 constexpr uint32_t LEVEL_START_TIME_MS = 86400000; // a day: the clock of a level whose file sets no play time
-constexpr size_t BACKGROUND_NAME_CHARS = 23;      // what fits behind the pictures' folder in a 40-byte path
+constexpr size_t BACKGROUND_NAME_CHARS = 23;       // what fits behind the pictures' folder in a 40-byte path
 
 // The loaded level: camera paths, tracks with their chains, the level clock and the colour bookkeeping. One
 // instance lives for the whole run and is refilled for each level; the chain rules work on it.

@@ -6,9 +6,9 @@
 CTrack::CTrack() : m_ucLastColour(static_cast<uint8_t>(std::rand() % NUM_BALL_COLOURS)) {}
 
 CTrack::CTrack(const CTrack& Other)
-    : m_uiInterval(Other.m_uiInterval), m_vColourCounts(Other.m_vColourCounts),
-      m_vColourQueue(Other.m_vColourQueue), m_uiElapsed(Other.m_uiElapsed), m_ucLastColour(Other.m_ucLastColour),
-      m_Lines(Other.m_Lines), m_Spline(Other.m_Spline)
+    : m_uiInterval(Other.m_uiInterval), m_vColourCounts(Other.m_vColourCounts), m_vColourQueue(Other.m_vColourQueue),
+      m_uiElapsed(Other.m_uiElapsed), m_ucLastColour(Other.m_ucLastColour), m_Lines(Other.m_Lines),
+      m_Spline(Other.m_Spline)
 {
 }
 

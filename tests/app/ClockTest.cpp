@@ -1,5 +1,5 @@
-#include "app/Clocks.h"
 #include "platform/interfaces/Clock.h"
+#include "app/Clocks.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include "app/MainLoop.h"
 #include "input/Input.h"
 #include "platform/interfaces/Clock.h"
-#include "platform/twins/ScriptedInput.h"
-#include "platform/native/SocketEvents.h"
 #include "platform/interfaces/Window.h"
+#include "platform/native/SocketEvents.h"
+#include "platform/twins/ScriptedInput.h"
 
 #include <gtest/gtest.h>
 
@@ -75,7 +75,7 @@ TEST(GameLoop, PassesThatHandleAnEventRunNoFrameAndTheNextFrameSeesTheLongDelta)
     CSocketEvents Sockets;
     Window.m_iClosePass = 11;
     Window.m_fnEventWaits = [](int iPass) { return iPass >= 5 && iPass < 10; }; // a burst of five events
-    EXPECT_EQ(RunMainLoop(Game, Window, Sockets), 6u);                                     // passes 0 to 4, and 10
+    EXPECT_EQ(RunMainLoop(Game, Window, Sockets), 6u);                          // passes 0 to 4, and 10
     EXPECT_EQ(Game.m_Clock.GetDelta(), 60u);
     EXPECT_EQ(Game.m_Clock.m_nTotal, 110u) << "every pass's time reaches the frame clock, none is lost";
     g_pGame = nullptr;

@@ -2,9 +2,9 @@
 
 #include "input/Input.h"
 #include "input/KeyCodes.h"
+#include "platform/native/SocketEvents.h"
 #include "platform/twins/RecordingAudio.h"
 #include "platform/twins/ScriptedInput.h"
-#include "platform/native/SocketEvents.h"
 #include "tracks/TrackList.h"
 
 #include <cstring>

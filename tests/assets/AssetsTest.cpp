@@ -43,19 +43,38 @@ struct CPicture
 
 // Every picture the game loads: the buttons cover their hot rectangles, the screens fill the back buffer.
 const CPicture MENU_PICTURES[] = {
-    {"Main_Menu", 800, 600},        {"single_player_menu", 800, 600}, {"multi_player_menu", 800, 600},
-    {"spline_editor_menu", 800, 600}, {"menu_credits", 800, 600},    {"Options_Menu", 800, 600},
-    {"connect_menu", 800, 600},     {"win", 800, 600},                {"lose", 800, 600},
-    {"kestrun", 800, 600},          {"Single_Player1", 244, 37},      {"Multi_Player1", 244, 37},
-    {"Spline_Editor1", 0, 0},       {"Options1", 152, 37},            {"Quit1", 85, 37},
-    {"credits1", 140, 27},          {"return_to_main1", 343, 33},     {"start1", 173, 78},
-    {"connect_client1", 291, 38},   {"connect_server1", 291, 38},     {"arrow_up1", 16, 16},
-    {"arrow_down1", 16, 16},        {"arrow_left", 0, 0},             {"arrow_right", 0, 0},
-    {"cursor", 0, 0},               {"gray_box", 0, 0},               {"slide_bar", 0, 0},
-    {"highlight", 0, 0},            {"scroll", 0, 0},
+    {"Main_Menu", 800, 600},
+    {"single_player_menu", 800, 600},
+    {"multi_player_menu", 800, 600},
+    {"spline_editor_menu", 800, 600},
+    {"menu_credits", 800, 600},
+    {"Options_Menu", 800, 600},
+    {"connect_menu", 800, 600},
+    {"win", 800, 600},
+    {"lose", 800, 600},
+    {"kestrun", 800, 600},
+    {"Single_Player1", 244, 37},
+    {"Multi_Player1", 244, 37},
+    {"Spline_Editor1", 0, 0},
+    {"Options1", 152, 37},
+    {"Quit1", 85, 37},
+    {"credits1", 140, 27},
+    {"return_to_main1", 343, 33},
+    {"start1", 173, 78},
+    {"connect_client1", 291, 38},
+    {"connect_server1", 291, 38},
+    {"arrow_up1", 16, 16},
+    {"arrow_down1", 16, 16},
+    {"arrow_left", 0, 0},
+    {"arrow_right", 0, 0},
+    {"cursor", 0, 0},
+    {"gray_box", 0, 0},
+    {"slide_bar", 0, 0},
+    {"highlight", 0, 0},
+    {"scroll", 0, 0},
 };
-const char* const HUD_PICTURES[] = {"power_ups", "score", "linear_track", "red",   "green", "blue",  "yellow",
-                                    "orange",    "purple", "face1",       "face2", "face3", "face4"};
+const char* const HUD_PICTURES[] = {"power_ups", "score",  "linear_track", "red",   "green", "blue", "yellow",
+                                    "orange",    "purple", "face1",        "face2", "face3", "face4"};
 const char* const SOUNDS[] = {"menus/sounds/highlight.wav", "menus/sounds/click.wav", "hud/sounds/shoot.wav",
                               "hud/sounds/chimes.wav",      "hud/sounds/stick.wav",   "hud/sounds/power.wav"};
 
@@ -75,12 +94,12 @@ TEST(Assets, EveryPictureExistsAtItsSizeAndEachOverPictureMatchesItsButton)
         ASSERT_GT(Size.first, 0u) << Path;
         if(Picture.m_uiWidth != 0)
         {
-                EXPECT_EQ(Size, std::make_pair(Picture.m_uiWidth, Picture.m_uiHeight)) << Path;
+            EXPECT_EQ(Size, std::make_pair(Picture.m_uiWidth, Picture.m_uiHeight)) << Path;
         }
         const std::string Name = Picture.m_pName;
         if(Name.back() == '1' || Name.rfind("arrow_", 0) == 0)
         {
-                EXPECT_EQ(PngSize("data/menus/images/" + OverName(Name) + ".png"), Size) << OverName(Name);
+            EXPECT_EQ(PngSize("data/menus/images/" + OverName(Name) + ".png"), Size) << OverName(Name);
         }
     }
     for(const char* pName : HUD_PICTURES)
@@ -114,8 +133,7 @@ TEST(Assets, SoundsMusicAndEveryLevelsBackgroundAreThere)
     {
         CLevel Level;
         Level.Load(File.c_str(), 1);
-        EXPECT_EQ(PngSize(std::string("data/hud/images/") + Level.m_szBackground), std::make_pair(800u, 600u))
-            << File;
+        EXPECT_EQ(PngSize(std::string("data/hud/images/") + Level.m_szBackground), std::make_pair(800u, 600u)) << File;
     }
 }
 

@@ -68,9 +68,8 @@ void ChainTick(benchmark::State& State)
     if(!Level.m_Game.m_Logic.m_bActive)
         State.SkipWithError("the level ended during the run: the numbers would measure an idle tick");
     // Time per ball per tick: flat across sizes when a tick grows linearly with the balls in play.
-    State.counters["per_ball"] =
-        benchmark::Counter(static_cast<double>(iBalls), benchmark::Counter::kIsIterationInvariantRate |
-                                                            benchmark::Counter::kInvert);
+    State.counters["per_ball"] = benchmark::Counter(
+        static_cast<double>(iBalls), benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 BENCHMARK(ChainTick)->ArgsProduct({{1, 7}, {100, 500, 1000, 2000}})->Unit(benchmark::kMicrosecond);
 } // namespace

@@ -9,7 +9,7 @@
 namespace
 {
 constexpr uint32_t BALL_SPACING_POINTS = 14; // touching, as the chains roll
-constexpr float LAP_RISE = 3.0f;              // each lap of the track lies a ball's height above the last
+constexpr float LAP_RISE = 3.0f;             // each lap of the track lies a ball's height above the last
 // The real game drawing its play frame on the OpenGL device, in a shown window as the game has: the first
 // shipped level with its track filled with a given number of touching balls, lap over lap as if the level had
 // several tracks, all in view, every one its own draw with its own matrix and material.
@@ -73,5 +73,11 @@ void PlayFrame(benchmark::State& State)
     }
 }
 // The time is the wall clock's; the CPU time is the whole process's, the driver's drawing threads included.
-BENCHMARK(PlayFrame)->Arg(0)->Arg(500)->Arg(2000)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(PlayFrame)
+    ->Arg(0)
+    ->Arg(500)
+    ->Arg(2000)
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime()
+    ->UseRealTime();
 } // namespace

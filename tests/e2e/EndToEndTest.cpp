@@ -144,8 +144,9 @@ TEST_F(EndToEnd, TheGameOpensOnItsLogoAndQuitsOnEscape)
 TEST_F(EndToEnd, AFrameOfAShippedLevelShowsItsTrackLinesAndBallsInTheirColours)
 {
     CTempFile Out("", "level1.png");
-    const CCommandResult Run = RunCommand("cd '" + REPOSITORY + "' && '" TRELVANE_SHOT_BINARY
-                                          "' tests/data/level1.txt '" + Out.Path() + "' --frames 1500 --balls");
+    const CCommandResult Run =
+        RunCommand("cd '" + REPOSITORY + "' && '" TRELVANE_SHOT_BINARY "' tests/data/level1.txt '" + Out.Path() +
+                   "' --frames 1500 --balls");
     ASSERT_EQ(Run.m_iExitCode, 0) << Run.m_Output;
     CPicture Frame;
     ASSERT_TRUE(ReadPicture(Out.Path(), Frame));

@@ -53,16 +53,20 @@ TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsA
     for(const char* pSize : {"48", "128", "256"})
     {
         CPicture Icon;
-        ASSERT_TRUE(ReadPicture(Prefix + "/share/icons/hicolor/" + pSize + "x" + pSize + "/apps/" + APP + ".png", Icon));
+        ASSERT_TRUE(
+            ReadPicture(Prefix + "/share/icons/hicolor/" + pSize + "x" + pSize + "/apps/" + APP + ".png", Icon));
         EXPECT_EQ(Icon.m_iWidth, std::stoi(pSize));
         EXPECT_EQ(Icon.m_iHeight, std::stoi(pSize));
     }
-    const CCommandResult Entry = RunCommand("desktop-file-validate " + Prefix + "/share/applications/" + APP + ".desktop");
+    const CCommandResult Entry =
+        RunCommand("desktop-file-validate " + Prefix + "/share/applications/" + APP + ".desktop");
     EXPECT_EQ(Entry.m_iExitCode, 0) << Entry.m_Output;
     EXPECT_EQ(Entry.m_Output, "");
-    const CCommandResult Meta = RunCommand("appstreamcli validate --no-net " + Prefix + "/share/metainfo/" + APP + ".metainfo.xml");
+    const CCommandResult Meta =
+        RunCommand("appstreamcli validate --no-net " + Prefix + "/share/metainfo/" + APP + ".metainfo.xml");
     EXPECT_EQ(Meta.m_iExitCode, 0) << Meta.m_Output;
-    const CCommandResult Manual = RunCommand("MANWIDTH=100 man --warnings -l " + Prefix + "/share/man/man6/trelvane.6.gz");
+    const CCommandResult Manual =
+        RunCommand("MANWIDTH=100 man --warnings -l " + Prefix + "/share/man/man6/trelvane.6.gz");
     EXPECT_EQ(Manual.m_iExitCode, 0);
     for(const char* pPart : {"CONTROLS", "NETWORK GAME", "FILES", "port 666", "Track List.txt"})
         EXPECT_TRUE(Has(Manual.m_Output, pPart)) << pPart;
@@ -109,19 +113,20 @@ TEST(Install, ThePackageHoldsTheGameItsDataAndMenuEntryDependsOnItsLibrariesAndG
         EXPECT_TRUE(Has(Control, pField)) << pField << " in\n" << Control;
 
     const std::string Contents = RunCommand("dpkg-deb -c " + Deb).m_Output;
-    for(const std::string& File : std::vector<std::string>{"./usr/bin/trelvane\n", "./usr/bin/trelvane-bot\n", "./usr/share/trelvane/data/tracks/Track List.txt\n",
-         "./usr/share/trelvane/data/tracks/20-finale.txt\n", "./usr/share/trelvane/data/menus/images/kestrun.png\n",
-         "./usr/share/trelvane/data/Music/01-glass-garden.mp3\n", "./usr/share/applications/" + APP + ".desktop\n",
-         "./usr/share/metainfo/" + APP + ".metainfo.xml\n", "./usr/share/icons/hicolor/256x256/apps/" + APP + ".png\n",
-         "./usr/share/man/man6/trelvane.6.gz\n", "./usr/share/doc/trelvane/copyright\n"})
+    for(const std::string& File : std::vector<std::string>{
+            "./usr/bin/trelvane\n", "./usr/bin/trelvane-bot\n", "./usr/share/trelvane/data/tracks/Track List.txt\n",
+            "./usr/share/trelvane/data/tracks/20-finale.txt\n", "./usr/share/trelvane/data/menus/images/kestrun.png\n",
+            "./usr/share/trelvane/data/Music/01-glass-garden.mp3\n", "./usr/share/applications/" + APP + ".desktop\n",
+            "./usr/share/metainfo/" + APP + ".metainfo.xml\n",
+            "./usr/share/icons/hicolor/256x256/apps/" + APP + ".png\n", "./usr/share/man/man6/trelvane.6.gz\n",
+            "./usr/share/doc/trelvane/copyright\n"})
         EXPECT_TRUE(Has(Contents, File)) << File;
     EXPECT_FALSE(Has(Contents, "_tests")) << "test programs are not for players";
     size_t OwnedByRoot = 0;
-    for(const char* pMode : {"-rw-r--r-- root/root", "-rwxr-xr-x root/root", "drwxr-xr-x root/root", "lrwxrwxrwx root/root"})
+    for(const char* pMode :
+        {"-rw-r--r-- root/root", "-rwxr-xr-x root/root", "drwxr-xr-x root/root", "lrwxrwxrwx root/root"})
         OwnedByRoot += Lines(Contents, pMode).size();
-    EXPECT_EQ(OwnedByRoot, Contents.size())
-        << "every file belongs to root and is readable by all:\n"
-        << Contents;
+    EXPECT_EQ(OwnedByRoot, Contents.size()) << "every file belongs to root and is readable by all:\n" << Contents;
 
     const std::string PostInst = RunCommand("dpkg-deb -I " + Deb + " postinst").m_Output;
     EXPECT_TRUE(Has(PostInst, "setcap cap_net_bind_service=+ep /usr/bin/trelvane")) << PostInst;

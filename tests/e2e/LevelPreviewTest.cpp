@@ -86,16 +86,17 @@ TEST(LevelTool, PreviewShowsEachTrackInItsColourBesideTheFirstFrame)
     {
         ASSERT_EQ(Marks.count(std::string(Track) + " end"), 1u) << Run.m_Output;
         const auto [iEndX, iEndY] = Marks.at(std::string(Track) + " end");
-        EXPECT_TRUE(Near(Preview.Rgb(iEndX, iEndY), uiColour)) << Track << " end " << std::hex << Preview.Rgb(iEndX, iEndY);
+        EXPECT_TRUE(Near(Preview.Rgb(iEndX, iEndY), uiColour))
+            << Track << " end " << std::hex << Preview.Rgb(iEndX, iEndY);
         const auto [iStartX, iStartY] = Marks.at(std::string(Track) + " start");
         const uint32_t uiRing = Preview.Rgb(iStartX, static_cast<int>(std::lround(iStartY - fRing)));
         EXPECT_TRUE(Near(uiRing, uiColour)) << Track << " start " << std::hex << uiRing;
     }
 
-    ASSERT_EQ(RunCommand("cd '" + REPOSITORY + "' && '" TRELVANE_SHOT_BINARY "' '" + Level.Path() + "' '" +
-                         Shot.Path() + "'")
-                  .m_iExitCode,
-              0);
+    ASSERT_EQ(
+        RunCommand("cd '" + REPOSITORY + "' && '" TRELVANE_SHOT_BINARY "' '" + Level.Path() + "' '" + Shot.Path() + "'")
+            .m_iExitCode,
+        0);
     CPicture Frame;
     ASSERT_TRUE(ReadPicture(Shot.Path(), Frame));
     const std::array<double, 3> adFrame = Mean(Frame, 0, 800), adPanel = Mean(Preview, 300, 400);

@@ -364,8 +364,7 @@ protected:
     bool ShowsPlayersInPlay(CGameSession& Game, int iPlayers, CPicture* pLast = nullptr)
     {
         return Game.WaitForScreen(
-            [&](const CPicture& s)
-            {
+            [&](const CPicture& s) {
                 if(s.Likeness(m_Powerups, 10, 10) < 0.8)
                     return false;
                 for(int i = 0; i <= iPlayers && i < 8; i++)
@@ -385,8 +384,7 @@ protected:
     {
         int iOutcome = 0;
         Game.WaitForScreen(
-            [&](const CPicture& s)
-            {
+            [&](const CPicture& s) {
                 const double dWin = s.Likeness(m_Win, 0, 0), dLose = s.Likeness(m_Lose, 0, 0);
                 iOutcome = dWin > 0.8 && dWin > dLose + 0.1 ? 1 : dLose > 0.8 && dLose > dWin + 0.1 ? -1 : 0;
                 return iOutcome != 0;

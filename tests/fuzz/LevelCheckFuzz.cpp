@@ -11,7 +11,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* pData, size_t Size)
     for(const CDiagnostic& Found : CheckLevelText(Text))
     {
         // Every place told must lie inside the file or at its very end.
-        if(Found.m_Offset < 0 || Found.m_Offset > static_cast<int64_t>(Size) || LineAndColumn(Text, Found.m_Offset).empty())
+        if(Found.m_Offset < 0 || Found.m_Offset > static_cast<int64_t>(Size) ||
+           LineAndColumn(Text, Found.m_Offset).empty())
             __builtin_trap();
     }
     return 0;

@@ -127,8 +127,8 @@ TEST_F(Sprites, TextGoesInTheRectanglesAndFormatsOfItsFont)
     ASSERT_EQ(m_Device.m_vTexts.size(), 3u);
     const auto& Medium = m_Device.m_vTexts[0];
     EXPECT_EQ(Medium.m_iFontHeight, 26);
-    EXPECT_EQ(std::vector<int32_t>({Medium.m_Rect.m_iLeft, Medium.m_Rect.m_iTop, Medium.m_Rect.m_iRight,
-                                    Medium.m_Rect.m_iBottom}),
+    EXPECT_EQ(std::vector<int32_t>(
+                  {Medium.m_Rect.m_iLeft, Medium.m_Rect.m_iTop, Medium.m_Rect.m_iRight, Medium.m_Rect.m_iBottom}),
               std::vector<int32_t>({520, 14, 800, 44}));
     EXPECT_EQ(Medium.m_uiFormat, 256u);
     const auto& Large = m_Device.m_vTexts[1];

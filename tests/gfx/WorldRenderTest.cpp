@@ -122,8 +122,10 @@ TEST_F(WorldRender, TheSphereIsTenByTenAndWoundClockwiseSeenFromOutside)
         const CMeshVertex& a = Sphere.m_vVertices[Sphere.m_vIndices[i]];
         const CMeshVertex& b = Sphere.m_vVertices[Sphere.m_vIndices[i + 1]];
         const CMeshVertex& c = Sphere.m_vVertices[Sphere.m_vIndices[i + 2]];
-        const CVector3 Normal = Cross(CVector3(b.x - a.x, b.y - a.y, b.z - a.z), CVector3(c.x - a.x, c.y - a.y, c.z - a.z));
+        const CVector3 Normal =
+            Cross(CVector3(b.x - a.x, b.y - a.y, b.z - a.z), CVector3(c.x - a.x, c.y - a.y, c.z - a.z));
         // In a left-handed world a face seen clockwise has its cross product towards the viewer.
-        EXPECT_GT(Dot(Normal, CVector3(a.x + b.x + c.x, a.y + b.y + c.y, a.z + b.z + c.z)), 0.0f) << "triangle " << i / 3;
+        EXPECT_GT(Dot(Normal, CVector3(a.x + b.x + c.x, a.y + b.y + c.y, a.z + b.z + c.z)), 0.0f)
+            << "triangle " << i / 3;
     }
 }

@@ -171,8 +171,8 @@ TEST(BSpline, ResamplingSkipsChordsOfZeroLength)
 
 TEST(BSpline, HostilePolygonsStayBounded)
 {
-    const CBSpline Huge = MakeCurve(3, {CPoint3(0, 0, 0), CPoint3(3e38f, 0, 0), CPoint3(-3e38f, 0, 0),
-                                        CPoint3(3e38f, 0, 0), CPoint3(0, 0, 0)});
+    const CBSpline Huge = MakeCurve(
+        3, {CPoint3(0, 0, 0), CPoint3(3e38f, 0, 0), CPoint3(-3e38f, 0, 0), CPoint3(3e38f, 0, 0), CPoint3(0, 0, 0)});
     EXPECT_TRUE(Huge.m_vPoints.empty()) << "a curve whose length overflows lays no rail";
 
     const CBSpline Long = MakeCurve(3, Line(8, 1e6f));

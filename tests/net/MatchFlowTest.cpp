@@ -68,8 +68,7 @@ TEST_F(MatchFlowOnClient, TheFirstScoreUpdateLeavesAfterASecondAndThenOneEveryTi
     m_Game.m_Clock = CGameClock();
     m_Game.m_nScore = 77;
     CNetwork& Host = m_Host.m_Net;
-    auto Frame = [this]
-    {
+    auto Frame = [this] {
         AdvanceManualClock(10);
         m_Game.m_Clock.Update(timeGetTime());
         m_Game.m_Network.Tick();
@@ -212,7 +211,8 @@ TEST(MatchFlow, SevenBotsRaceOneMatchAgreeOnTheRowsAndHaveOneWinner)
     usleep(300000);
     for(int i = 1; i < 10; i++)
     {
-        ASSERT_TRUE(aBots[i].Start(Level.Bot({"--join", "127.0.0.1", "--seed", std::to_string(i + 1)}), Level.Folder()));
+        ASSERT_TRUE(
+            aBots[i].Start(Level.Bot({"--join", "127.0.0.1", "--seed", std::to_string(i + 1)}), Level.Folder()));
         usleep(100000);
     }
     // While the seven race, the seventh and eighth clients hold ids and no slots, and the ninth waits unheard.
@@ -256,8 +256,7 @@ TEST(MatchFlow, PlayersWhoLeaveOrVanishMidMatchLeaveTheOthersPlaying)
     Host.Kill(); // no chance to say goodbye
     ASSERT_EQ(Last.Wait(90000), 0) << Last.Errors();
     EXPECT_EQ(MatchesOf(Last.Output()).size(), 1u) << Last.Output();
-    EXPECT_NE(Last.Output().find(R"("players":[{"id":0,"present":true,"finished":false},{"id":2,)"),
-              std::string::npos)
+    EXPECT_NE(Last.Output().find(R"("players":[{"id":0,"present":true,"finished":false},{"id":2,)"), std::string::npos)
         << "the leaver's slot went, the vanished host's stayed: " << Last.Output();
 }
 
@@ -266,8 +265,8 @@ TEST(MatchFlow, BotsPlayTwoMatchesInARowAndAgreeOnBoth)
 {
     const CQuickLevel Level;
     CChildProcess aBots[3];
-    ASSERT_TRUE(aBots[0].Start(Level.Bot({"--host", "--start-when", "3", "--matches", "2", "--seed", "5"}),
-                               Level.Folder()));
+    ASSERT_TRUE(
+        aBots[0].Start(Level.Bot({"--host", "--start-when", "3", "--matches", "2", "--seed", "5"}), Level.Folder()));
     usleep(300000);
     for(int i = 1; i < 3; i++)
         ASSERT_TRUE(aBots[i].Start(Level.Bot({"--join", "127.0.0.1", "--matches", "2", "--seed", std::to_string(i)}),

@@ -222,8 +222,8 @@ bool PumpUntil(const std::vector<CPeer*>& vPeers, const std::function<bool()>& f
         for(CPeer* pPeer : vPeers)
         {
             CNetwork& Net = pPeer->m_Net;
-            while(pPeer->m_Events.HandleOneEvent([&Net](int Socket, uint32_t uiEvent)
-                                                 { Net.OnSocketEvent(Socket, uiEvent); }))
+            while(pPeer->m_Events.HandleOneEvent(
+                [&Net](int Socket, uint32_t uiEvent) { Net.OnSocketEvent(Socket, uiEvent); }))
             {
             }
             if(bProcess)
@@ -236,7 +236,8 @@ bool PumpUntil(const std::vector<CPeer*>& vPeers, const std::function<bool()>& f
 
 void PumpFor(const std::vector<CPeer*>& vPeers, int iMs)
 {
-    PumpUntil(vPeers, [] { return false; }, iMs);
+    PumpUntil(
+        vPeers, [] { return false; }, iMs);
 }
 
 bool StartHost(CPeer& Host, uint32_t uiMaxClients)
@@ -257,8 +258,7 @@ bool JoinClient(CPeer& Host, CPeer& Client, std::vector<CPeer*> vOthers)
     vOthers.push_back(&Host);
     vOthers.push_back(&Client);
     CNetwork& Net = Client.m_Net;
-    return PumpUntil(vOthers, [&Net, &Host]
-                     { return Net.m_nMyId != 0 && ListedIds(Net) == ListedIds(Host.m_Net); });
+    return PumpUntil(vOthers, [&Net, &Host] { return Net.m_nMyId != 0 && ListedIds(Net) == ListedIds(Host.m_Net); });
 }
 
 bool JoinWire(CPeer& Host, CWireClient& Client, uint32_t& uiId)
@@ -266,13 +266,12 @@ bool JoinWire(CPeer& Host, CWireClient& Client, uint32_t& uiId)
     if(!Client.Connect(PortOf(Host)))
         return false;
     std::vector<CWireFrame> vFrames;
-    PumpUntil({&Host}, [&Client, &vFrames]
-              {
-                  CWireFrame Frame;
-                  while(vFrames.size() < 3 && Client.Read(Frame, 0))
-                      vFrames.push_back(Frame);
-                  return vFrames.size() == 3;
-              });
+    PumpUntil({&Host}, [&Client, &vFrames] {
+        CWireFrame Frame;
+        while(vFrames.size() < 3 && Client.Read(Frame, 0))
+            vFrames.push_back(Frame);
+        return vFrames.size() == 3;
+    });
     if(vFrames.size() != 3 || vFrames[0].m_uiType != 0 || vFrames[1].m_uiType != 1 || vFrames[2].m_uiType != 6)
         return false;
     uiId = vFrames[0].m_vPayload[0] | vFrames[0].m_vPayload[1] << 8;

@@ -34,8 +34,9 @@ TEST(NetworkLink, ClientsJoiningInTurnGetTheNextIdsAndEveryMachineHoldsTheSameTa
     EXPECT_EQ(a.m_Net.m_nMyId, 1u);
     EXPECT_EQ(b.m_Net.m_nMyId, 2u);
     EXPECT_EQ(c.m_Net.m_nMyId, 3u);
-    ASSERT_TRUE(PumpUntil({&Host, &a, &b, &c}, [&] { return ListedIds(a.m_Net) == ListedIds(Host.m_Net) &&
-                                                             ListedIds(b.m_Net) == ListedIds(Host.m_Net); }));
+    ASSERT_TRUE(PumpUntil({&Host, &a, &b, &c}, [&] {
+        return ListedIds(a.m_Net) == ListedIds(Host.m_Net) && ListedIds(b.m_Net) == ListedIds(Host.m_Net);
+    }));
     EXPECT_EQ(ListedIds(Host.m_Net), Ids({0, 1, 2, 3}));
     EXPECT_EQ(c.m_Net.GetPlayerNumber(3), 4u);
 
@@ -43,8 +44,11 @@ TEST(NetworkLink, ClientsJoiningInTurnGetTheNextIdsAndEveryMachineHoldsTheSameTa
     ASSERT_TRUE(Wire.Connect(PortOf(Host)));
     std::vector<CWireFrame> vFrames(3);
     size_t Read = 0;
-    ASSERT_TRUE(PumpUntil({&Host, &a, &b, &c}, [&] { while(Read < 3 && Wire.Read(vFrames[Read], 0)) Read++;
-                                                     return Read == 3; }));
+    ASSERT_TRUE(PumpUntil({&Host, &a, &b, &c}, [&] {
+        while(Read < 3 && Wire.Read(vFrames[Read], 0))
+            Read++;
+        return Read == 3;
+    }));
     const std::vector<uint8_t> vId = WireU32(4);
     EXPECT_EQ(vFrames[0].m_uiType, 0u);
     EXPECT_EQ(vFrames[0].m_vPayload, vId);
@@ -60,8 +64,9 @@ TEST(NetworkLink, ClientsJoiningInTurnGetTheNextIdsAndEveryMachineHoldsTheSameTa
         EXPECT_EQ(vTable[8 + 8 * i], 1) << "present";
         EXPECT_EQ(vTable[9 + 8 * i], 0) << "finished";
     }
-    ASSERT_TRUE(PumpUntil({&Host, &a, &b, &c}, [&] { return ListedIds(a.m_Net).size() == 5 &&
-                                                             ListedIds(c.m_Net) == ListedIds(Host.m_Net); }));
+    ASSERT_TRUE(PumpUntil({&Host, &a, &b, &c}, [&] {
+        return ListedIds(a.m_Net).size() == 5 && ListedIds(c.m_Net) == ListedIds(Host.m_Net);
+    }));
 }
 
 // A departure reaches every other machine; the one behind closes the gap everywhere alike, the host's
@@ -79,8 +84,9 @@ TEST(NetworkLink, ADepartureReachesEveryoneAndNoIdIsGivenTwice)
     EXPECT_EQ(uiWatcher, 4u);
 
     a.m_Net.Shutdown();
-    ASSERT_TRUE(PumpUntil({&Host, &b, &c}, [&] { return ListedIds(b.m_Net) == Ids({0, 2, 3, 4}) &&
-                                                         ListedIds(c.m_Net) == Ids({0, 2, 3, 4}); }));
+    ASSERT_TRUE(PumpUntil({&Host, &b, &c}, [&] {
+        return ListedIds(b.m_Net) == Ids({0, 2, 3, 4}) && ListedIds(c.m_Net) == Ids({0, 2, 3, 4});
+    }));
     EXPECT_EQ(ListedIds(Host.m_Net), Ids({0, 2, 3, 4}));
     EXPECT_EQ(Host.m_Net.m_nClients, 3u);
     EXPECT_EQ(Host.m_Net.m_Clients[0].m_nId, 4u) << "the last client moved into the freed place";
@@ -132,7 +138,8 @@ TEST(NetworkLink, AFrameOfTheLimitGoesOutAndNoSendReachesPastItsPlace)
     vPayload.push_back('y');
     Message.m_pData = vPayload.data();
     EXPECT_FALSE(a.m_Net.SendToServer(Message));
-    ASSERT_TRUE(PumpUntil({&Host}, [&] { return Host.m_Net.HasMessage(); }, 3000, false));
+    ASSERT_TRUE(PumpUntil(
+        {&Host}, [&] { return Host.m_Net.HasMessage(); }, 3000, false));
     uint8_t aPayload[NET_PAYLOAD_BUFFER];
     CNetMessage Received;
     Received.m_pData = aPayload;
@@ -221,8 +228,7 @@ TEST(NetworkLink, AClientThatStopsReadingIsCutOffAndTheOthersHearEveryLineInOrde
     const uint32_t uiLines = 6000; // half a megabyte of chat: several times what may wait for the sleeper
     uint32_t uiHeard = 0;
     bool bInOrder = true;
-    const auto fnHear = [&]
-    {
+    const auto fnHear = [&] {
         CWireFrame Frame;
         while(Speaker.Read(Frame, 0)) // its own lines come back to it too
         {
@@ -245,7 +251,8 @@ TEST(NetworkLink, AClientThatStopsReadingIsCutOffAndTheOthersHearEveryLineInOrde
             vBatch.insert(vBatch.end(), vFrame.begin(), vFrame.end());
         }
         ASSERT_TRUE(Speaker.Send(vBatch));
-        PumpUntil({&Host}, [&] { return fnHear() || uiHeard >= uiSent + 100; }, 3000);
+        PumpUntil(
+            {&Host}, [&] { return fnHear() || uiHeard >= uiSent + 100; }, 3000);
         ASSERT_EQ(uiHeard, uiSent + 100);
     }
     EXPECT_TRUE(bInOrder);

@@ -68,8 +68,8 @@ TEST_F(ProtocolOnHostOfTwo, AScoreUpdateComesBackToEveryClientAsTheWholeTable)
     ASSERT_TRUE(Pump([&] { return m_B.ReadUntil(NET_SCORE_TABLE, Table, 0); }));
     ASSERT_EQ(Table.m_vPayload.size(), 164u);
     std::vector<uint8_t> vExpected = WireU32(3);
-    for(const std::vector<uint8_t>& vRow : {ScoreRow(0, 0, 500, 0.25f), ScoreRow(2, m_uiA, 1234, 0.5f),
-                                             ScoreRow(3, m_uiB, 0, 0.0f)})
+    for(const std::vector<uint8_t>& vRow :
+        {ScoreRow(0, 0, 500, 0.25f), ScoreRow(2, m_uiA, 1234, 0.5f), ScoreRow(3, m_uiB, 0, 0.0f)})
         vExpected.insert(vExpected.end(), vRow.begin(), vRow.end());
     EXPECT_EQ(std::vector<uint8_t>(Table.m_vPayload.begin(), Table.m_vPayload.begin() + 64), vExpected);
 }
@@ -258,7 +258,8 @@ TEST(Protocol, AHostBotServesWirePeersAndShrugsOffGarbage)
     EXPECT_EQ(Frame.m_vPayload, WireText("2: hi"));
     ASSERT_TRUE(a.Send(WireFrame(NET_SCORE_UPDATE, 1, 0, ScoreRow(2, 1, 777, 0))));
     ASSERT_TRUE(b.ReadUntil(NET_SCORE_TABLE, Frame, 2000));
-    EXPECT_EQ(std::vector<uint8_t>(Frame.m_vPayload.begin() + 24, Frame.m_vPayload.begin() + 44), ScoreRow(2, 1, 777, 0));
+    EXPECT_EQ(std::vector<uint8_t>(Frame.m_vPayload.begin() + 24, Frame.m_vPayload.begin() + 44),
+              ScoreRow(2, 1, 777, 0));
     ASSERT_TRUE(a.Send(WireFrame(NET_PU_HALT, 1, 2, MARK_PAYLOAD)));
     ASSERT_TRUE(b.ReadUntil(NET_PU_HALT, Frame, 2000));
     EXPECT_EQ(Frame.m_uiFrom, 1u);

@@ -214,15 +214,13 @@ TEST(Rogue, StallingFloodingAndChurningPeersNeitherStopTheHostNorSilenceThePlaye
     vAttacks.emplace_back(NeverRead, usPort, Deadline);
     vAttacks.emplace_back([&] { ulFlooded = FloodChat(usPort, Deadline); });
     std::atomic<bool> bChurning{true};
-    vAttacks.emplace_back(
-        [&]
-        {
-            Churned = Churn(usPort, 1000, In(CHURN_MS));
-            bChurning = false;
-        });
+    vAttacks.emplace_back([&] {
+        Churned = Churn(usPort, 1000, In(CHURN_MS));
+        bChurning = false;
+    });
     usleep(1500000);
-    ASSERT_TRUE(Speaker.Start(
-        BotCommand({"--join", "127.0.0.1", "--port", Port, "--chat", "heard through the storm", "--quit-after", "60"})));
+    ASSERT_TRUE(Speaker.Start(BotCommand(
+        {"--join", "127.0.0.1", "--port", Port, "--chat", "heard through the storm", "--quit-after", "60"})));
     uint64_t ulPeakKb = 0;
     while(Before(Deadline) || bChurning)
     {
@@ -292,7 +290,7 @@ std::vector<uint8_t> RandomFrames(std::mt19937& Random)
     {
         const uint32_t uiTable = Random() % 2 ? NET_PLAYER_TABLE : NET_SCORE_TABLE;
         const uint32_t uiType = Random() % 3 == 0 ? static_cast<uint32_t>(Random() % 40) : uiTable;
-        const size_t Size = uiType == NET_PLAYER_TABLE ? PLAYER_TABLE_SIZE
+        const size_t Size = uiType == NET_PLAYER_TABLE  ? PLAYER_TABLE_SIZE
                             : uiType == NET_SCORE_TABLE ? SCORE_TABLE_SIZE
                                                         : 1 + Random() % NET_MAX_PAYLOAD;
         std::vector<uint8_t> vPayload = RandomBytes(Random, Size);

@@ -1,5 +1,5 @@
-#include "net/NetTestSupport.h"
 #include "net/Socket.h"
+#include "net/NetTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,10 @@ struct CPipe
         close(m_aEnds[1]);
     }
     int Near() const { return m_aEnds[0]; }
-    void Write(const std::vector<uint8_t>& vBytes) const { ASSERT_EQ(write(m_aEnds[1], vBytes.data(), vBytes.size()), static_cast<ssize_t>(vBytes.size())); }
+    void Write(const std::vector<uint8_t>& vBytes) const
+    {
+        ASSERT_EQ(write(m_aEnds[1], vBytes.data(), vBytes.size()), static_cast<ssize_t>(vBytes.size()));
+    }
 };
 
 struct CReadFrame
@@ -163,7 +166,7 @@ TEST(Socket, ErrorsAreLoggedUnderTheirWinsockNames)
     CLogRecorder Log;
     CSocket Socket(nullptr);
     const std::pair<int, const char*> aCases[] = {
-        {ECONNREFUSED, "WSAECONNREFUSED"}, {EAGAIN, "WSAEWOULDBLOCK"}, {EBADF, "WSAENOTSOCK"},
+        {ECONNREFUSED, "WSAECONNREFUSED"}, {EAGAIN, "WSAEWOULDBLOCK"},    {EBADF, "WSAENOTSOCK"},
         {ETIMEDOUT, "WSAETIMEDOUT"},       {EADDRINUSE, "WSAEADDRINUSE"}, {ENOENT, "unknown error code"},
     };
     for(const auto& Case : aCases)

@@ -39,11 +39,13 @@ protected:
     }
     void Chat(std::initializer_list<uint8_t> Keys, std::initializer_list<uint8_t> Held = {})
     {
-        Press(Keys, [this] { m_Net.UpdateChatEntry(); }, Held);
+        Press(
+            Keys, [this] { m_Net.UpdateChatEntry(); }, Held);
     }
     void Address(std::initializer_list<uint8_t> Keys, std::initializer_list<uint8_t> Held = {})
     {
-        Press(Keys, [this] { m_Net.UpdateAddressEntry(); }, Held);
+        Press(
+            Keys, [this] { m_Net.UpdateAddressEntry(); }, Held);
     }
 
     CScriptedInput m_Input;
@@ -68,10 +70,10 @@ TEST_F(TextEntry, EachEditorStopsAtItsLongestTextAndNeverPastItsField)
 TEST_F(TextEntry, ShiftAndTheNumberPadGiveTheCharactersOfTheTable)
 {
     const std::pair<uint8_t, bool> aKeys[] = {
-        {DIK_1, false},     {DIK_NUMPAD1, false}, {DIK_1, true},     {DIK_NUMPAD1, true},  {DIK_COLON, false},
-        {DIK_COLON, true},  {DIK_SEMICOLON, false}, {DIK_SEMICOLON, true}, {DIK_PERIOD, false}, {DIK_DECIMAL, true},
-        {DIK_COMMA, false}, {DIK_COMMA, true},    {DIK_SPACE, true},  {DIK_Q, true},        {DIK_0, true},
-        {DIK_NUMPAD9, false}};
+        {DIK_1, false},      {DIK_NUMPAD1, false}, {DIK_1, true},          {DIK_NUMPAD1, true},
+        {DIK_COLON, false},  {DIK_COLON, true},    {DIK_SEMICOLON, false}, {DIK_SEMICOLON, true},
+        {DIK_PERIOD, false}, {DIK_DECIMAL, true},  {DIK_COMMA, false},     {DIK_COMMA, true},
+        {DIK_SPACE, true},   {DIK_Q, true},        {DIK_0, true},          {DIK_NUMPAD9, false}};
     for(const auto& [ucKey, bShift] : aKeys)
         Chat({ucKey}, bShift ? std::initializer_list<uint8_t>{DIK_LSHIFT} : std::initializer_list<uint8_t>{});
     Chat({DIK_2}, {DIK_RSHIFT});

@@ -37,7 +37,8 @@ TEST_F(LevelOutcome, AnIdlePlayerLosesWithExactlyTheOneBallThatRanOff)
         Frame(10);
     EXPECT_FALSE(m_Level.m_bWon);
     EXPECT_EQ(m_Game.m_nScore, BALL_POINTS);
-    EXPECT_EQ(m_Game.m_Stats.m_nTriples + m_Game.m_Stats.m_nChains, 0u) << "a chain of one colour makes no run by itself";
+    EXPECT_EQ(m_Game.m_Stats.m_nTriples + m_Game.m_Stats.m_nChains, 0u)
+        << "a chain of one colour makes no run by itself";
     EXPECT_FALSE(Track.m_lstBalls.empty());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 #include "app/Game.h"
-#include "platform/twins/RecordingAudio.h"
 #include "platform/interfaces/Clock.h"
+#include "platform/twins/RecordingAudio.h"
 #include "platform/twins/RecordingRenderDevice.h"
 
 #include <gtest/gtest.h>

@@ -93,7 +93,7 @@ TEST_F(PowerupEffects, ColourEffectsChangeColoursButNotTheCounts)
         {
             if(Before[i] != After[i])
             {
-                    ASSERT_EQ(After.find(Before[i]), std::string::npos) << "all of the old colour is replaced";
+                ASSERT_EQ(After.find(Before[i]), std::string::npos) << "all of the old colour is replaced";
             }
         }
     }

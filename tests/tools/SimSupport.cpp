@@ -19,7 +19,6 @@ double Field(const std::string& Output, const std::string& Key)
     return pEnd == pValue ? -1 : dValue;
 }
 
-
 double PlayerField(const std::string& Json, const std::string& Player, const std::string& Key)
 {
     const size_t At = Json.find("\"" + Player + "\":");

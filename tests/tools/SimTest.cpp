@@ -120,7 +120,8 @@ TEST(Simulator, ScriptMistakesStopTheRunNamingTheLine)
     ExpectOneLineError(Run);
     EXPECT_NE(Run.m_Output.find(":3:"), std::string::npos) << Run.m_Output;
 
-    for(const char* pLine : {"0 aim 10", "0 aim 400 0", "x fire", "0 turn 1 y", "0 forward -1", "7 power 9", "7 power 1 2"})
+    for(const char* pLine :
+        {"0 aim 10", "0 aim 400 0", "x fire", "0 turn 1 y", "0 forward -1", "7 power 9", "7 power 1 2"})
     {
         CTempFile Bad(std::string(pLine) + "\n", "bad.txt");
         ExpectOneLineError(Simulate(std::string(FIRST_LEVEL) + " --script " + Bad.Path()));

@@ -1,7 +1,7 @@
+#include "tracks/TrackFile.h"
 #include "TestSupport.h"
 #include "gfx/GraphicsEngine.h"
 #include "tracks/Level.h"
-#include "tracks/TrackFile.h"
 #include "tracks/TrackList.h"
 
 #include <gtest/gtest.h>
@@ -23,9 +23,8 @@ const std::string EXAMPLE = "Background: sky.png\n"
                             "Playtime: 3 min 30 sec\n"
                             "Initial camera yaw and pitch: 45.0 and -10.0\n"
                             "Camera: 12 points, degree 3 :\n" +
-                            Points(12) +
-                            "Track: 20 points, degree 3 balls 60 interval 700 points follow\n" + Points(20) +
-                            "End\n";
+                            Points(12) + "Track: 20 points, degree 3 balls 60 interval 700 points follow\n" +
+                            Points(20) + "End\n";
 
 struct CLoaded
 {
@@ -129,9 +128,9 @@ TEST(TrackFile, IntervalShrinksByThePowerOfTheRound)
     {
         uint32_t m_uiRound, m_aui[4];
     };
-    const SRow aTable[] = {{1, {82, 414, 829, 1659}},  {2, {68, 344, 688, 1377}}, {3, {57, 285, 571, 1143}},
-                           {4, {47, 237, 474, 949}},   {5, {39, 196, 393, 787}},  {6, {32, 163, 326, 653}},
-                           {8, {22, 112, 225, 450}},   {10, {15, 77, 155, 310}}};
+    const SRow aTable[] = {{1, {82, 414, 829, 1659}}, {2, {68, 344, 688, 1377}}, {3, {57, 285, 571, 1143}},
+                           {4, {47, 237, 474, 949}},  {5, {39, 196, 393, 787}},  {6, {32, 163, 326, 653}},
+                           {8, {22, 112, 225, 450}},  {10, {15, 77, 155, 310}}};
     const uint32_t auiFileValues[4] = {100, 500, 1000, 2000};
     for(const SRow& Row : aTable)
     {

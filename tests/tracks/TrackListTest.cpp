@@ -1,5 +1,5 @@
-#include "TestSupport.h"
 #include "tracks/TrackList.h"
+#include "TestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -22,8 +22,8 @@ TEST(TrackList, AFinalOrBlankLineGivesTheBareFolder)
     CTempFile File("one.txt\n\ntwo.txt\n");
     CTrackList List;
     List.Load(File.Path());
-    EXPECT_EQ(List.m_vFiles, (std::vector<std::string>{"data//tracks//one.txt", "data//tracks//", "data//tracks//two.txt",
-                                                       "data//tracks//"}));
+    EXPECT_EQ(List.m_vFiles, (std::vector<std::string>{"data//tracks//one.txt", "data//tracks//",
+                                                       "data//tracks//two.txt", "data//tracks//"}));
 
     CTempFile Empty("");
     CTrackList None;

@@ -3,9 +3,9 @@
 #include "bot/BotPlayer.h"
 #include "net/Log.h"
 #include "platform/interfaces/Clock.h"
-#include "platform/twins/RecordingRenderDevice.h"
 #include "platform/native/DataFolder.h"
 #include "platform/native/SocketEvents.h"
+#include "platform/twins/RecordingRenderDevice.h"
 
 #include <csignal>
 #include <cstdio>
@@ -54,8 +54,9 @@ void CountAndPrint(const char* pLine)
 // bot sleeps until its sockets have something or the next frame is due.
 void RunFrames(CGame& Game, CBotPlayer& Bot, CSocketEvents& Sockets)
 {
-    const CSocketEvents::CHandler fnToNetwork = [&Game](int Socket, uint32_t uiEvent)
-    { Game.m_Network.OnSocketEvent(Socket, uiEvent); };
+    const CSocketEvents::CHandler fnToNetwork = [&Game](int Socket, uint32_t uiEvent) {
+        Game.m_Network.OnSocketEvent(Socket, uiEvent);
+    };
     uint32_t uiNextFrame = timeGetTime();
     while(!Bot.IsDone() && !g_bStopAsked)
     {

@@ -186,7 +186,8 @@ void CBotPlayer::BeginMatch(uint32_t uiTrack)
 std::vector<CScoreRow> CBotPlayer::ListedRows() const
 {
     const CNetwork& Network = m_Game.m_Network;
-    return std::vector<CScoreRow>(Network.m_Scores, Network.m_Scores + std::min<uint32_t>(Network.m_nPlayers, MAX_PLAYERS));
+    return std::vector<CScoreRow>(Network.m_Scores,
+                                  Network.m_Scores + std::min<uint32_t>(Network.m_nPlayers, MAX_PLAYERS));
 }
 
 // Playing or looking at the results: the lobby is the only screen on which no match is on.

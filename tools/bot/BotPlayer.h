@@ -70,7 +70,7 @@ private:
     bool m_bOnResults = false;  // the results screen is up
     uint32_t m_uiResultsMs = 0; // when it came up
     std::vector<CScoreRow> m_vLastRows;
-    uint32_t m_uiRowsMs = 0;    // when the score rows last changed, or were taken
+    uint32_t m_uiRowsMs = 0;   // when the score rows last changed, or were taken
     bool m_bRowsTaken = false; // the match's rows have stood still and are noted
     uint32_t m_uiMatchesStarted = 0;
     uint32_t m_uiEndAtMs = UINT32_MAX; // set once the last match's results are seen

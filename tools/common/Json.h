@@ -10,8 +10,7 @@ void WriteJsonNumber(std::ostream& Stream, float fValue);
 void WriteJsonString(std::ostream& Stream, const char* pText);
 
 // The elements of a range between square brackets, separated by commas.
-template<typename R, typename F>
-void WriteJsonArray(std::ostream& Stream, const R& Range, F WriteElement)
+template <typename R, typename F> void WriteJsonArray(std::ostream& Stream, const R& Range, F WriteElement)
 {
     Stream << "[";
     const char* pSeparator = "";

@@ -2,9 +2,9 @@
 
 #include "gfx/GraphicsEngine.h"
 #include "level/SegmentDistance.h"
+#include "platform/interfaces/GameMatrix.h"
 #include "play/Ball.h"
 #include "play/ChainLogic.h"
-#include "platform/interfaces/GameMatrix.h"
 #include "tracks/Level.h"
 
 #include <cmath>
@@ -42,8 +42,8 @@ void CheckCurve(const CBSpline& Spline, const std::string& Name, int64_t Offset,
     const size_t Points = Spline.m_vControlPoints.size();
     if(Spline.m_uiDegree > CBSpline::MAX_DEGREE)
         vOut.push_back({Offset, true,
-                        "degree " + std::to_string(Spline.m_uiDegree) + " of " + Name + ": the game takes no more than " +
-                            std::to_string(CBSpline::MAX_DEGREE)});
+                        "degree " + std::to_string(Spline.m_uiDegree) + " of " + Name +
+                            ": the game takes no more than " + std::to_string(CBSpline::MAX_DEGREE)});
     if(Points < 4)
         vOut.push_back({Offset, true, Name + " has " + std::to_string(Points) + " points: a curve needs at least 4"});
     else if(Spline.m_vPoints.size() < 2)
@@ -139,8 +139,7 @@ float NearestEye(const CLevel& Level, const CPoint3& p)
 void CheckCurves(const CLevel& Level, const CSectionPlaces& Places, std::vector<CDiagnostic>& vOut)
 {
     for(size_t i = 0; i < Level.m_vCameraPaths.size(); i++)
-        CheckCurve(Level.m_vCameraPaths[i].m_Spline, "camera path " + std::to_string(i + 1), Places.m_vPaths[i],
-                   vOut);
+        CheckCurve(Level.m_vCameraPaths[i].m_Spline, "camera path " + std::to_string(i + 1), Places.m_vPaths[i], vOut);
     for(size_t i = 0; i < Level.m_vTracks.size(); i++)
         CheckTrack(Level.m_vTracks[i], TrackName(i), Places.m_vTracks[i], vOut);
 }
@@ -178,12 +177,14 @@ void CheckSight(const CLevel& Level, CGraphicsEngine& Camera, const CSectionPlac
         if(vPoints.size() < 2)
             continue;
         const int64_t Offset = Places.m_vTracks[i];
-        for(const auto& [pName, Point] : {std::make_pair("start", vPoints.front()), std::make_pair("end", vPoints.back())})
+        for(const auto& [pName, Point] :
+            {std::make_pair("start", vPoints.front()), std::make_pair("end", vPoints.back())})
         {
             if(NearestEye(Level, Point) > FAR_PLANE)
                 vOut.push_back({Offset, false,
-                                TrackName(i) + "'s " + pName + " is farther than 750 from every camera path: it can't "
-                                                           "be seen"});
+                                TrackName(i) + "'s " + pName +
+                                    " is farther than 750 from every camera path: it can't "
+                                    "be seen"});
         }
         if(!InFirstView(Camera, vPoints.front()) && !InFirstView(Camera, vPoints.back()))
             vOut.push_back({Offset, false, TrackName(i) + ": neither its start nor its end is in the first view"});

@@ -74,7 +74,8 @@ std::vector<CDiagnostic> CheckLevelText(const std::string& Text)
 std::string LineAndColumn(const std::string& Text, int64_t Offset)
 {
     const size_t At = std::min(static_cast<size_t>(std::max<int64_t>(Offset, 0)), Text.size());
-    const size_t Line = static_cast<size_t>(std::count(Text.begin(), Text.begin() + static_cast<std::ptrdiff_t>(At), '\n'));
+    const size_t Line =
+        static_cast<size_t>(std::count(Text.begin(), Text.begin() + static_cast<std::ptrdiff_t>(At), '\n'));
     const size_t LineStart = At == 0 ? 0 : Text.rfind('\n', At - 1);
     const size_t Column = LineStart == std::string::npos || At == 0 ? At : At - LineStart - 1;
     return std::to_string(Line + 1) + ":" + std::to_string(Column + 1);

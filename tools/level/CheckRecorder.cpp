@@ -39,8 +39,9 @@ void CCheckRecorder::OnStrayByte(char, std::streamoff Offset)
         return;
     m_bInStrayRun = true;
     m_vDiagnostics.push_back({Offset, true,
-                              "'" + TokenAt(Offset) + "' stands between sections, where the game skips everything up "
-                                                      "to the next section letter (B, C, I, P, T or E)"});
+                              "'" + TokenAt(Offset) +
+                                  "' stands between sections, where the game skips everything up "
+                                  "to the next section letter (B, C, I, P, T or E)"});
 }
 
 void CCheckRecorder::OnBrokenOff(const std::string& Expected, std::streamoff Offset)
@@ -70,7 +71,8 @@ std::string CCheckRecorder::TokenAt(int64_t Offset) const
 {
     constexpr size_t MAX_SHOWN = 24;
     std::string Word;
-    for(size_t i = static_cast<size_t>(Offset); i < m_Text.size() && !IsBlank(m_Text[i]) && Word.size() < MAX_SHOWN; i++)
+    for(size_t i = static_cast<size_t>(Offset); i < m_Text.size() && !IsBlank(m_Text[i]) && Word.size() < MAX_SHOWN;
+        i++)
         Word += std::isprint(static_cast<unsigned char>(m_Text[i])) ? m_Text[i] : '?';
     return Word;
 }

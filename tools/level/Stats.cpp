@@ -75,15 +75,12 @@ void WriteTracks(std::ostream& Stream, const CStatsOptions& Stats)
 {
     CLevel Level;
     Level.Load(Stats.m_LevelFile.c_str(), Stats.m_uiRound);
-    WriteJsonArray(Stream, Level.m_vTracks,
-                   [&Stream](const CTrack& Track)
-                   {
-                       const float fLength = Track.m_Spline.m_vDistances.empty() ? 0.0f : Track.m_Spline.m_vDistances.back();
-                       Stream << "{\"length_diameters\":";
-                       WriteJsonNumber(Stream, fLength / BALL_DIAMETER);
-                       Stream << ",\"balls\":" << Track.m_vColourQueue.size() << ",\"interval_ms\":" << Track.m_uiInterval
-                              << "}";
-                   });
+    WriteJsonArray(Stream, Level.m_vTracks, [&Stream](const CTrack& Track) {
+        const float fLength = Track.m_Spline.m_vDistances.empty() ? 0.0f : Track.m_Spline.m_vDistances.back();
+        Stream << "{\"length_diameters\":";
+        WriteJsonNumber(Stream, fLength / BALL_DIAMETER);
+        Stream << ",\"balls\":" << Track.m_vColourQueue.size() << ",\"interval_ms\":" << Track.m_uiInterval << "}";
+    });
 }
 } // namespace
 

@@ -33,7 +33,7 @@ void CPlayerSummary::Write(std::ostream& Stream) const
     else
         Stream << (vSorted[(Count - 1) / 2] + vSorted[Count / 2]) / 2;
     Stream << ",\"losses_to_clock\":" << m_uiLossesToClock << ",\"shots_per_ball\":";
-    WriteJsonNumber(Stream, m_ulBallsCleared == 0 ? 0.0f
-                                                  : static_cast<float>(m_ulShots) / static_cast<float>(m_ulBallsCleared));
+    WriteJsonNumber(
+        Stream, m_ulBallsCleared == 0 ? 0.0f : static_cast<float>(m_ulShots) / static_cast<float>(m_ulBallsCleared));
     Stream << "}";
 }

@@ -4,8 +4,8 @@
 #include "sim/BallMotion.h"
 #include "sim/PathRiding.h"
 #include "sim/PlayerInput.h"
-#include "sim/ShotPath.h"
 #include "sim/RunCount.h"
+#include "sim/ShotPath.h"
 
 #include <algorithm>
 #include <cmath>
@@ -56,9 +56,9 @@ std::vector<CTarget> RankTargets(const CLevel& Level, uint8_t ucColour)
                 vTargets.push_back({*it, iGain, static_cast<float>((*it)->m_uiPoint) / fPoints});
         }
     }
-    std::stable_sort(vTargets.begin(), vTargets.end(),
-                     [](const CTarget& a, const CTarget& b)
-                     { return a.m_iGain != b.m_iGain ? a.m_iGain > b.m_iGain : a.m_fDanger > b.m_fDanger; });
+    std::stable_sort(vTargets.begin(), vTargets.end(), [](const CTarget& a, const CTarget& b) {
+        return a.m_iGain != b.m_iGain ? a.m_iGain > b.m_iGain : a.m_fDanger > b.m_fDanger;
+    });
     return vTargets;
 }
 

@@ -56,8 +56,8 @@ CFurthestLead FurthestLead(const CLevel& Level)
     {
         if(Track.m_lstBalls.empty() || Track.m_Spline.m_uiNumPoints == 0)
             continue;
-        const float fAlong = static_cast<float>(Track.m_lstBalls.back()->m_uiPoint) /
-                             static_cast<float>(Track.m_Spline.m_uiNumPoints);
+        const float fAlong =
+            static_cast<float>(Track.m_lstBalls.back()->m_uiPoint) / static_cast<float>(Track.m_Spline.m_uiNumPoints);
         if(Furthest.m_pBall == nullptr || fAlong > Furthest.m_fAlong)
             Furthest = {Track.m_lstBalls.back(), fAlong};
     }

@@ -1,8 +1,8 @@
 #include "sim/ShotPath.h"
 
 #include "gfx/GraphicsEngine.h"
-#include "sim/BallMotion.h"
 #include "play/ChainLogic.h"
+#include "sim/BallMotion.h"
 #include "tracks/Level.h"
 
 namespace
@@ -14,8 +14,9 @@ const CBall* FirstHit(const CLevel& Level, const CBall& Shot, const CBallMotion*
     {
         for(const CBall* pBall : Track.m_lstBalls)
         {
-            const bool bHit = pMotion ? Distance(Shot.m_Position, pMotion->PositionAfter(*pBall, fElapsedMs)) < HIT_DISTANCE
-                                      : CChainLogic::IsHit(Shot, *pBall);
+            const bool bHit = pMotion
+                                  ? Distance(Shot.m_Position, pMotion->PositionAfter(*pBall, fElapsedMs)) < HIT_DISTANCE
+                                  : CChainLogic::IsHit(Shot, *pBall);
             if(bHit)
                 return pBall;
         }

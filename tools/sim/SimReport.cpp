@@ -49,17 +49,17 @@ void WriteSummary(std::ostream& Stream, const CGame& Game, const CRunCount& Coun
            << ",\"shots_fired\":" << Count.m_ulShotsFired << ",\"powerups_earned\":" << Count.m_ulPowerupsEarned
            << ",\"powerups_used\":" << Count.m_ulPowerupsUsed << ",\"stack\":\""
            << std::string(Game.m_Powerups.m_acStack, Game.m_Powerups.m_nStackCount)
-           << "\",\"stats\":{\"triples\":" << Stats.m_nTriples
-           << ",\"chains\":" << Stats.m_nChains << ",\"max_chain\":" << Stats.m_nMaxChain
-           << ",\"combos\":" << Stats.m_nCombos << ",\"max_combo\":" << Stats.m_nMaxCombo << "}}\n";
+           << "\",\"stats\":{\"triples\":" << Stats.m_nTriples << ",\"chains\":" << Stats.m_nChains
+           << ",\"max_chain\":" << Stats.m_nMaxChain << ",\"combos\":" << Stats.m_nCombos
+           << ",\"max_combo\":" << Stats.m_nMaxCombo << "}}\n";
 }
 
 void WriteTraceFrame(std::ostream& Stream, uint64_t ulFrame, const CGame& Game)
 {
     Stream << "{\"frame\":" << ulFrame << ",\"tracks\":";
-    WriteJsonArray(Stream, Game.m_Level.m_vTracks,
-               [&Stream](const CTrack& Track)
-               { WriteJsonArray(Stream, Track.m_lstBalls, [&Stream](const CBall* pBall) { WriteBall(Stream, *pBall); }); });
+    WriteJsonArray(Stream, Game.m_Level.m_vTracks, [&Stream](const CTrack& Track) {
+        WriteJsonArray(Stream, Track.m_lstBalls, [&Stream](const CBall* pBall) { WriteBall(Stream, *pBall); });
+    });
     Stream << ",\"shots\":";
     WriteJsonArray(Stream, Game.m_Level.m_lstShots, [&Stream](const CBall* pShot) { WriteShot(Stream, *pShot); });
     Stream << "}\n";

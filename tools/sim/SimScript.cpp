@@ -1,8 +1,8 @@
 #include "sim/SimScript.h"
 
 #include "app/Game.h"
-#include "sim/PlayerInput.h"
 #include "common/NumberParse.h"
+#include "sim/PlayerInput.h"
 #include "sim/SimReport.h"
 
 #include <algorithm>
@@ -19,9 +19,9 @@ struct CActionName
 };
 
 const CActionName ACTIONS[] = {
-    {"aim", ESimAction::Aim, 2},   {"turn", ESimAction::Turn, 2}, {"fire", ESimAction::Fire, 0},
-    {"swap", ESimAction::Swap, 0}, {"path", ESimAction::Path, 0}, {"forward", ESimAction::Forward, 1},
-    {"back", ESimAction::Back, 1},   {"power", ESimAction::Power, 0},
+    {"aim", ESimAction::Aim, 2},   {"turn", ESimAction::Turn, 2},   {"fire", ESimAction::Fire, 0},
+    {"swap", ESimAction::Swap, 0}, {"path", ESimAction::Path, 0},   {"forward", ESimAction::Forward, 1},
+    {"back", ESimAction::Back, 1}, {"power", ESimAction::Power, 0},
 };
 
 // The angles a player can hold: the turns keep the yaw within a circle and the pitch short of straight.
@@ -108,7 +108,8 @@ bool ParseScriptLine(const std::string& Line, CScriptStep& Step, std::string& Er
     if(itName == std::end(ACTIONS))
         return Reject(Error, "unknown action '" + Name + "'");
     Step.m_Action = itName->m_Action;
-    const bool bArgCount = vArgs.size() == itName->m_ArgCount || (Step.m_Action == ESimAction::Power && vArgs.size() == 1);
+    const bool bArgCount =
+        vArgs.size() == itName->m_ArgCount || (Step.m_Action == ESimAction::Power && vArgs.size() == 1);
     if(!bArgCount || !ParseArgs(Step.m_Action, vArgs, Step.m_adArgs))
         return Reject(Error, "bad arguments for " + Name);
     return true;

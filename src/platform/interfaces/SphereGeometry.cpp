@@ -39,7 +39,9 @@ CSphereGeometry BuildSphere(float fRadius, uint32_t uiSlices, uint32_t uiStacks)
     AddVertex(Sphere, fRadius, PI, 0.0);
 
     // Vertex of a ring (1 to stacks - 1) and a slice, the slice wrapping round.
-    auto At = [uiSlices](uint32_t uiRing, uint32_t uiSlice) { return 1 + (uiRing - 1) * uiSlices + uiSlice % uiSlices; };
+    auto At = [uiSlices](uint32_t uiRing, uint32_t uiSlice) {
+        return 1 + (uiRing - 1) * uiSlices + uiSlice % uiSlices;
+    };
     for(uint32_t j = 0; j < uiSlices; j++)
         AddTriangle(Sphere, 0, At(1, j), At(1, j + 1));
     for(uint32_t uiRing = 1; uiRing + 1 < uiStacks; uiRing++)

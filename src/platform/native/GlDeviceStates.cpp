@@ -84,30 +84,14 @@ void CGlRenderDevice::ApplyRenderState(ERenderState State)
                                          : uiValue == FILL_WIREFRAME ? GL_LINE
                                                                      : GL_FILL);
         break;
-    case RS_SHADEMODE:
-        glShadeModel(uiValue == SHADE_FLAT ? GL_FLAT : GL_SMOOTH);
-        break;
-    case RS_LIGHTING:
-        Toggle(GL_LIGHTING, uiValue != 0);
-        break;
-    case RS_AMBIENT:
-        glLightModelfv(GL_LIGHT_MODEL_AMBIENT, Rgba(uiValue).data());
-        break;
-    case RS_SPECULARENABLE:
-        ApplyMaterial();
-        break;
-    case RS_NORMALIZENORMALS:
-        Toggle(GL_NORMALIZE, uiValue != 0);
-        break;
-    case RS_ZENABLE:
-        Toggle(GL_DEPTH_TEST, uiValue != 0);
-        break;
-    case RS_ZWRITEENABLE:
-        glDepthMask(uiValue != 0);
-        break;
-    case RS_ALPHABLENDENABLE:
-        Toggle(GL_BLEND, uiValue != 0);
-        break;
+    case RS_SHADEMODE: glShadeModel(uiValue == SHADE_FLAT ? GL_FLAT : GL_SMOOTH); break;
+    case RS_LIGHTING: Toggle(GL_LIGHTING, uiValue != 0); break;
+    case RS_AMBIENT: glLightModelfv(GL_LIGHT_MODEL_AMBIENT, Rgba(uiValue).data()); break;
+    case RS_SPECULARENABLE: ApplyMaterial(); break;
+    case RS_NORMALIZENORMALS: Toggle(GL_NORMALIZE, uiValue != 0); break;
+    case RS_ZENABLE: Toggle(GL_DEPTH_TEST, uiValue != 0); break;
+    case RS_ZWRITEENABLE: glDepthMask(uiValue != 0); break;
+    case RS_ALPHABLENDENABLE: Toggle(GL_BLEND, uiValue != 0); break;
     case RS_SRCBLEND:
     case RS_DESTBLEND:
         glBlendFunc(BlendFactor(m_auiStates[RS_SRCBLEND]), BlendFactor(m_auiStates[RS_DESTBLEND]));
@@ -117,11 +101,8 @@ void CGlRenderDevice::ApplyRenderState(ERenderState State)
     case RS_POINTSIZE_MIN:
     case RS_POINTSCALE_A:
     case RS_POINTSCALE_B:
-    case RS_POINTSCALE_C:
-        ApplyPointSize();
-        break;
-    default:
-        break;
+    case RS_POINTSCALE_C: ApplyPointSize(); break;
+    default: break;
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-#include "platform/native/GlScreenSpace.h"
 #include "platform/interfaces/RenderDevice.h"
+#include "platform/native/GlScreenSpace.h"
 
 // Flat pictures in pixels of the back buffer over everything drawn so far, for as long as the object lives:
 // no depth test or write, no lighting or culling, blended by the picture's alpha. Whatever the device had set

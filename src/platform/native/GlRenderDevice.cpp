@@ -1,5 +1,6 @@
 #include "platform/native/GlRenderDevice.h"
 
+#include "platform/interfaces/SphereGeometry.h"
 #include "platform/native/GlBackBuffer.h"
 #include "platform/native/GlColour.h"
 #include "platform/native/GlFont.h"
@@ -7,7 +8,6 @@
 #include "platform/native/GlScreenSpace.h"
 #include "platform/native/GlVertexFormat.h"
 #include "platform/native/SdlWindow.h"
-#include "platform/interfaces/SphereGeometry.h"
 
 #include <SDL.h>
 #include <SDL_ttf.h>

@@ -1,11 +1,11 @@
 #pragma once
+#include "platform/interfaces/RenderDevice.h"
 #include "platform/native/GlFunctions.h"
 #include "platform/native/GlSphereBatch.h"
 #include "platform/native/GlTexture.h"
 #include "platform/native/GlTextureStage.h"
 #include "platform/native/GlVertexBuffer.h"
 #include "platform/native/GlVertexFormat.h"
-#include "platform/interfaces/RenderDevice.h"
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
-#include "platform/native/GlLighting.h"
 #include "platform/interfaces/MeshFaces.h"
 #include "platform/interfaces/SphereGeometry.h"
+#include "platform/native/GlLighting.h"
 
 #include <memory>
 #include <vector>

@@ -18,19 +18,14 @@ void ApplyOperation(GLenum eCombine, GLenum eSource0, GLenum eSource1, uint32_t 
     GLint iSource0 = GL_PRIMARY_COLOR;
     switch(uiOp)
     {
-    case TOP_SELECTARG1:
-        iSource0 = SourceOf(uiArg1);
-        break;
-    case TOP_SELECTARG2:
-        iSource0 = SourceOf(uiArg2);
-        break;
+    case TOP_SELECTARG1: iSource0 = SourceOf(uiArg1); break;
+    case TOP_SELECTARG2: iSource0 = SourceOf(uiArg2); break;
     case TOP_MODULATE:
         iMode = GL_MODULATE;
         iSource0 = SourceOf(uiArg1);
         glTexEnvi(GL_TEXTURE_ENV, eSource1, SourceOf(uiArg2));
         break;
-    default:
-        break;
+    default: break;
     }
     glTexEnvi(GL_TEXTURE_ENV, eCombine, iMode);
     glTexEnvi(GL_TEXTURE_ENV, eSource0, iSource0);
@@ -41,14 +36,10 @@ bool KeepsDiffuse(uint32_t uiOp, uint32_t uiArg1, uint32_t uiArg2)
 {
     switch(uiOp)
     {
-    case TOP_SELECTARG1:
-        return uiArg1 != TA_TEXTURE;
-    case TOP_SELECTARG2:
-        return uiArg2 != TA_TEXTURE;
-    case TOP_MODULATE:
-        return (uiArg1 == TA_TEXTURE) != (uiArg2 == TA_TEXTURE);
-    default:
-        return true;
+    case TOP_SELECTARG1: return uiArg1 != TA_TEXTURE;
+    case TOP_SELECTARG2: return uiArg2 != TA_TEXTURE;
+    case TOP_MODULATE: return (uiArg1 == TA_TEXTURE) != (uiArg2 == TA_TEXTURE);
+    default: return true;
     }
 }
 } // namespace

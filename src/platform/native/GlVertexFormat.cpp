@@ -37,20 +37,11 @@ bool ModeOf(EPrimitive Type, GLenum& eMode)
 {
     switch(Type)
     {
-    case PT_POINTLIST:
-        eMode = GL_POINTS;
-        return true;
-    case PT_LINELIST:
-        eMode = GL_LINES;
-        return true;
-    case PT_TRIANGLELIST:
-        eMode = GL_TRIANGLES;
-        return true;
-    case PT_TRIANGLESTRIP:
-        eMode = GL_TRIANGLE_STRIP;
-        return true;
-    default:
-        return false;
+    case PT_POINTLIST: eMode = GL_POINTS; return true;
+    case PT_LINELIST: eMode = GL_LINES; return true;
+    case PT_TRIANGLELIST: eMode = GL_TRIANGLES; return true;
+    case PT_TRIANGLESTRIP: eMode = GL_TRIANGLE_STRIP; return true;
+    default: return false;
     }
 }
 

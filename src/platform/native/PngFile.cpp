@@ -9,8 +9,8 @@ bool SavePng(const char* pFileName, const std::vector<uint8_t>& vRgba, int iWidt
 {
     if(iWidth <= 0 || iHeight <= 0 || vRgba.size() != static_cast<size_t>(iWidth) * static_cast<size_t>(iHeight) * 4)
         return false;
-    SDL_Surface* pSurface = SDL_CreateRGBSurfaceWithFormatFrom(const_cast<uint8_t*>(vRgba.data()), iWidth, iHeight,
-                                                               32, iWidth * 4, SDL_PIXELFORMAT_RGBA32);
+    SDL_Surface* pSurface = SDL_CreateRGBSurfaceWithFormatFrom(const_cast<uint8_t*>(vRgba.data()), iWidth, iHeight, 32,
+                                                               iWidth * 4, SDL_PIXELFORMAT_RGBA32);
     if(!pSurface)
         return false;
     const bool bSaved = IMG_SavePNG(pSurface, pFileName) == 0;

@@ -93,17 +93,10 @@ void CSdlWindow::TypeCharacters(const SDL_Event& Event)
     {
         switch(Event.key.keysym.sym)
         {
-        case SDLK_ESCAPE:
-            m_fnOnChar(ESCAPE);
-            break;
-        case SDLK_BACKSPACE:
-            m_fnOnChar(BACKSPACE);
-            break;
-        case SDLK_RETURN:
-            m_fnOnChar(RETURN);
-            break;
-        default:
-            break;
+        case SDLK_ESCAPE: m_fnOnChar(ESCAPE); break;
+        case SDLK_BACKSPACE: m_fnOnChar(BACKSPACE); break;
+        case SDLK_RETURN: m_fnOnChar(RETURN); break;
+        default: break;
         }
     }
 }

@@ -1,6 +1,6 @@
+#include "platform/interfaces/MeshFaces.h"
 #include "gfx/GraphicsEngine.h"
 #include "platform/interfaces/GameMatrix.h"
-#include "platform/interfaces/MeshFaces.h"
 
 #include <gtest/gtest.h>
 

@@ -309,8 +309,7 @@ TEST_F(GraphicsEngine, GlDeviceDrawsBallsInARowAsItDrawsThemOneByOne)
     Blue.m_afDirection = {-0.8f, 0.2f, 0.5f};
     m_Device.SetLight(5, Blue);
     m_Device.LightEnable(5, true);
-    auto DrawTheBalls = [&](ITexture* pTexture)
-    {
+    auto DrawTheBalls = [&](ITexture* pTexture) {
         m_Device.Clear(0xff006478, 1.0f);
         m_Device.SetRenderState(RS_AMBIENT, 0xff404040);
         m_Device.SetTexture(0, pTexture);
@@ -546,8 +545,7 @@ TEST_F(GraphicsEngine, GlDevicePresentsTheBackBufferLetterboxedInTheWindow)
     std::vector<uint8_t> vScreen(1280 * 720 * 4);
     glReadPixels(0, 0, 1280, 720, GL_RGBA, GL_UNSIGNED_BYTE, vScreen.data());
     // Red, green and blue of a window pixel counted from the top left.
-    auto At = [&vScreen](int x, int y)
-    {
+    auto At = [&vScreen](int x, int y) {
         const uint8_t* p = &vScreen[(static_cast<size_t>(719 - y) * 1280 + x) * 4];
         return static_cast<uint32_t>(p[0] << 16 | p[1] << 8 | p[2]);
     };

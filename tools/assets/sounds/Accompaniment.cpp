@@ -64,15 +64,11 @@ int BassPitch(const CKey& Key, const BarInfo& Bar, BassNote eNote)
     const int nRoot = BassRoot(Key, Bar.m_Chord);
     switch(eNote)
     {
-    case BassNote::Fifth:
-        return PlaceNear(Key.Midi(Bar.m_Chord.m_nRoot + 4), nRoot + 7);
-    case BassNote::Octave:
-        return nRoot + 12;
-    case BassNote::Approach:
-        return PlaceNear(Key.Midi(Bar.m_NextChord.m_nRoot - 1), BassRoot(Key, Bar.m_NextChord));
+    case BassNote::Fifth: return PlaceNear(Key.Midi(Bar.m_Chord.m_nRoot + 4), nRoot + 7);
+    case BassNote::Octave: return nRoot + 12;
+    case BassNote::Approach: return PlaceNear(Key.Midi(Bar.m_NextChord.m_nRoot - 1), BassRoot(Key, Bar.m_NextChord));
     case BassNote::Root:
-    default:
-        return nRoot;
+    default: return nRoot;
     }
 }
 } // namespace

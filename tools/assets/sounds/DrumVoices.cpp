@@ -93,18 +93,10 @@ Mono RenderDrum(const Note& Played, const Patch& Sound, uint64_t ulSeed)
     Mono vOut;
     switch(Played.m_ePart)
     {
-    case Part::Kick:
-        vOut = Kick(Sound, ulSeed);
-        break;
-    case Part::Snare:
-        vOut = Snare(Sound, ulSeed);
-        break;
-    case Part::Hat:
-        vOut = Hat(Sound, ulSeed);
-        break;
-    default:
-        vOut = Shaker(Sound, ulSeed);
-        break;
+    case Part::Kick: vOut = Kick(Sound, ulSeed); break;
+    case Part::Snare: vOut = Snare(Sound, ulSeed); break;
+    case Part::Hat: vOut = Hat(Sound, ulSeed); break;
+    default: vOut = Shaker(Sound, ulSeed); break;
     }
     FadeOut(vOut, DRUM_TAIL_FADE);
     ApplyGain(vOut, Played.m_fVelocity);

@@ -8,14 +8,10 @@ float VelocityOf(char cHit)
 {
     switch(cHit)
     {
-    case 'X':
-        return 1.0f;
-    case 'x':
-        return 0.75f;
-    case 'o':
-        return 0.45f;
-    default:
-        return 0.0f;
+    case 'X': return 1.0f;
+    case 'x': return 0.75f;
+    case 'o': return 0.45f;
+    default: return 0.0f;
     }
 }
 

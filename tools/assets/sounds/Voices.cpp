@@ -32,14 +32,10 @@ Stereo RenderVoice(const Note& Played, const Patch& Sound, double dSecondsPerBea
     const double dGate = Played.m_dLength * dSecondsPerBeat;
     switch(Sound.m_eEngine)
     {
-    case Engine::Fm:
-        return Pan(RenderFm(Played, Sound, dGate), Sound.m_fPan);
-    case Engine::Pluck:
-        return Pan(RenderPluck(Played, Sound, dGate, ulSeed), Sound.m_fPan);
-    case Engine::Drum:
-        return Pan(RenderDrum(Played, Sound, ulSeed), Sound.m_fPan);
+    case Engine::Fm: return Pan(RenderFm(Played, Sound, dGate), Sound.m_fPan);
+    case Engine::Pluck: return Pan(RenderPluck(Played, Sound, dGate, ulSeed), Sound.m_fPan);
+    case Engine::Drum: return Pan(RenderDrum(Played, Sound, ulSeed), Sound.m_fPan);
     case Engine::Subtractive:
-    default:
-        return RenderSubtractive(Played, Sound, dGate, ulSeed);
+    default: return RenderSubtractive(Played, Sound, dGate, ulSeed);
     }
 }
