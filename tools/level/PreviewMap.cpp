@@ -75,11 +75,12 @@ void Arrowhead(art::CCanvas& Canvas, art::CPoint Tip, float fDx, float fDy, floa
 {
     const float fLength = std::max(std::hypot(fDx, fDy), 1e-6f);
     const float ux = fDx / fLength, uy = fDy / fLength;
-    art::FillShape(Canvas,
-                   art::Polygon({Tip,
-                                 {Tip.m_fX - fSize * ux + fSize * 0.55f * uy, Tip.m_fY - fSize * uy - fSize * 0.55f * ux},
-                                 {Tip.m_fX - fSize * ux - fSize * 0.55f * uy, Tip.m_fY - fSize * uy + fSize * 0.55f * ux}}),
-                   art::Solid(Colour));
+    art::FillShape(
+        Canvas,
+        art::Polygon({Tip,
+                      {Tip.m_fX - fSize * ux + fSize * 0.55f * uy, Tip.m_fY - fSize * uy - fSize * 0.55f * ux},
+                      {Tip.m_fX - fSize * ux - fSize * 0.55f * uy, Tip.m_fY - fSize * uy + fSize * 0.55f * ux}}),
+        art::Solid(Colour));
 }
 
 // A label kept whole inside the picture, with a dark rim so that it reads over any line.
@@ -136,8 +137,10 @@ void MarkTrack(art::CCanvas& Canvas, const CTrack& Track, size_t Index, const CM
         Arrowhead(Canvas, Tip, Tip.m_fX - Back.m_fX, Tip.m_fY - Back.m_fY, 2.6f * fUnit, Colour);
     }
     const art::CPoint Start = Map.At(vPoints.front()), End = Map.At(vPoints.back());
-    art::FillShape(Canvas, art::Outline(art::Circle(Start.m_fX, Start.m_fY, 2.4f * fUnit), 1.2f * fUnit), art::Solid(Colour));
-    art::FillShape(Canvas, art::RoundRect(End.m_fX - 1.8f * fUnit, End.m_fY - 1.8f * fUnit, 3.6f * fUnit, 3.6f * fUnit, 0.5f),
+    art::FillShape(Canvas, art::Outline(art::Circle(Start.m_fX, Start.m_fY, 2.4f * fUnit), 1.2f * fUnit),
+                   art::Solid(Colour));
+    art::FillShape(Canvas,
+                   art::RoundRect(End.m_fX - 1.8f * fUnit, End.m_fY - 1.8f * fUnit, 3.6f * fUnit, 3.6f * fUnit, 0.5f),
                    art::Solid(Colour));
     vMarks.push_back({Name + " start", Start.m_fX, Start.m_fY, Colour});
     vMarks.push_back({Name + " end", End.m_fX, End.m_fY, Colour});
@@ -166,7 +169,8 @@ void DrawCameraPaths(art::CCanvas& Canvas, const CLevel& Level, const CMapping& 
         }
         const std::string Name = "C" + std::to_string(i + 1);
         vMarks.push_back({Name + " start", Start.m_fX, Start.m_fY, White});
-        Label(Canvas, Name, Start.m_fX + 2.5f * fUnit, Start.m_fY + 1.5f * fUnit, White, static_cast<int>(4.0f * fUnit));
+        Label(Canvas, Name, Start.m_fX + 2.5f * fUnit, Start.m_fY + 1.5f * fUnit, White,
+              static_cast<int>(4.0f * fUnit));
     }
 }
 

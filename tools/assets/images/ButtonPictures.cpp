@@ -3,14 +3,15 @@
 #include "Catalogue.h"
 #include "Widgets.h"
 
-namespace art {
-
-namespace {
-
-struct CButtonLook {
-    const char *m_pName; // the file names are name + "1.png" and name + "2.png" (lit)
+namespace art
+{
+namespace
+{
+struct CButtonLook
+{
+    const char* m_pName; // the file names are name + "1.png" and name + "2.png" (lit)
     int m_iWidth, m_iHeight;
-    const char *m_pLabel;
+    const char* m_pLabel;
     int m_iLabelSize;
 };
 
@@ -26,18 +27,19 @@ const CButtonLook BUTTONS[] = {
     {"connect_client", 291, 38, "Join as Client", 18},
     {"connect_server", 291, 38, "Host as Server", 18},
 };
-
 } // namespace
 
 CPictures ButtonPictures()
 {
     CPictures vOut;
-    for (const CButtonLook &Look : BUTTONS)
-        for (ELit eLit : {ELit::No, ELit::Yes}) {
+    for(const CButtonLook& Look : BUTTONS)
+        for(ELit eLit : {ELit::No, ELit::Yes})
+        {
             std::string File = std::string(Look.m_pName) + (eLit == ELit::Yes ? "2.png" : "1.png");
-            vOut.push_back(InMenus(File, [Look, eLit] { return Button(Look.m_iWidth, Look.m_iHeight, Look.m_pLabel, eLit, Look.m_iLabelSize); }));
+            vOut.push_back(
+                InMenus(File, [Look, eLit]
+                        { return Button(Look.m_iWidth, Look.m_iHeight, Look.m_pLabel, eLit, Look.m_iLabelSize); }));
         }
     return vOut;
 }
-
 } // namespace art

@@ -6,10 +6,11 @@
 #include <functional>
 #include <vector>
 
-namespace art {
-
+namespace art
+{
 // A colour with straight (not premultiplied) alpha, components 0..1.
-struct CRgba {
+struct CRgba
+{
     float m_fR = 0, m_fG = 0, m_fB = 0, m_fA = 0;
 };
 
@@ -23,20 +24,26 @@ CRgba Scaled(CRgba Colour, float fFactor); // multiplies r, g, b (clamped), alph
 using CPaint = std::function<CRgba(float fX, float fY)>;
 CPaint Solid(CRgba Colour);
 
-enum class EBlend { Over, Add };
+enum class EBlend
+{
+    Over,
+    Add
+};
 
 // Coverage 0..1 over a rectangle of the picture that starts at (left, top).
-struct CMask {
+struct CMask
+{
     int m_iLeft = 0, m_iTop = 0, m_iWidth = 0, m_iHeight = 0;
     std::vector<float> m_vCover;
 
     CMask() = default;
     CMask(int iLeft, int iTop, int iWidth, int iHeight);
     float At(int iX, int iY) const; // picture coordinates; 0 outside
-    float &Cell(int iX, int iY) { return m_vCover[static_cast<std::size_t>(iY - m_iTop) * m_iWidth + (iX - m_iLeft)]; }
+    float& Cell(int iX, int iY) { return m_vCover[static_cast<std::size_t>(iY - m_iTop) * m_iWidth + (iX - m_iLeft)]; }
 };
 
-class CCanvas {
+class CCanvas
+{
 public:
     CCanvas(int iWidth, int iHeight);
 
@@ -44,12 +51,12 @@ public:
     int Height() const { return m_iHeight; }
 
     // Premultiplied pixel access.
-    const CRgba &Pixel(int iX, int iY) const { return m_vPixels[static_cast<std::size_t>(iY) * m_iWidth + iX]; }
-    CRgba &Pixel(int iX, int iY) { return m_vPixels[static_cast<std::size_t>(iY) * m_iWidth + iX]; }
+    const CRgba& Pixel(int iX, int iY) const { return m_vPixels[static_cast<std::size_t>(iY) * m_iWidth + iX]; }
+    CRgba& Pixel(int iX, int iY) { return m_vPixels[static_cast<std::size_t>(iY) * m_iWidth + iX]; }
 
-    void Fill(const CPaint &fnPaint);
-    void Paint(const CMask &Mask, const CPaint &fnPaint, EBlend eBlend = EBlend::Over, float fOpacity = 1.0f);
-    void Draw(const CCanvas &Picture, int iLeft, int iTop, float fOpacity = 1.0f); // over, no scaling
+    void Fill(const CPaint& fnPaint);
+    void Paint(const CMask& Mask, const CPaint& fnPaint, EBlend eBlend = EBlend::Over, float fOpacity = 1.0f);
+    void Draw(const CCanvas& Picture, int iLeft, int iTop, float fOpacity = 1.0f); // over, no scaling
 
     // Straight-alpha 8-bit ARGB, one word a pixel, rows top to bottom.
     std::vector<std::uint32_t> ToArgb() const;
@@ -62,6 +69,5 @@ private:
 };
 
 // A box-filtered copy at another size; used for thumbnails.
-CCanvas Resized(const CCanvas &Source, int iWidth, int iHeight);
-
+CCanvas Resized(const CCanvas& Source, int iWidth, int iHeight);
 } // namespace art

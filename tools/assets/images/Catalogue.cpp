@@ -1,16 +1,16 @@
 #include "Catalogue.h"
 
-namespace art {
-
+namespace art
+{
 CPictures Catalogue()
 {
     CPictures vAll;
-    for (auto pfnGroup : {MainScreens, NetworkScreens, SettingsScreens, ButtonPictures, SmallMenuPictures, ResultPictures, LogoPictures, HudPictures,
-                       FacePictures, FlarePictures, LevelBackgrounds}) {
+    for(auto pfnGroup : {MainScreens, NetworkScreens, SettingsScreens, ButtonPictures, SmallMenuPictures,
+                         ResultPictures, LogoPictures, HudPictures, FacePictures, FlarePictures, LevelBackgrounds})
+    {
         CPictures vPart = pfnGroup();
         vAll.insert(vAll.end(), vPart.begin(), vPart.end());
     }
     return vAll;
 }
-
 } // namespace art

@@ -7,21 +7,22 @@
 #include <string>
 #include <vector>
 
-namespace art {
-
-class CContactSheet {
+namespace art
+{
+class CContactSheet
+{
 public:
     // Keeps only a thumbnail, so the full pictures need not stay in memory.
-    void Add(const std::string &Path, const CCanvas &Picture);
+    void Add(const std::string& Path, const CCanvas& Picture);
     CCanvas Render() const;
 
 private:
-    struct CEntry {
+    struct CEntry
+    {
         std::string m_Path;
         int m_iWidth, m_iHeight;
         CCanvas m_Thumbnail;
     };
     std::vector<CEntry> m_vEntries;
 };
-
 } // namespace art

@@ -6,18 +6,19 @@
 
 #include <cstdint>
 
-namespace art {
-
-CMask Blurred(const CMask &Mask, float fRadius);    // Gaussian-like (three box passes), grows by the radius
-CMask Dilated(const CMask &Mask, float fRadius);    // every edge pushed out by the radius
-CMask Shifted(const CMask &Mask, int iDx, int iDy);
-CMask ScaledCover(const CMask &Mask, float fFactor); // coverage times factor, clamped
-CMask Multiplied(const CMask &a, const CMask &b);    // coverage of a kept where b covers
-CMask United(const CMask &a, const CMask &b);        // the larger coverage of the two
+namespace art
+{
+CMask Blurred(const CMask& Mask, float fRadius); // Gaussian-like (three box passes), grows by the radius
+CMask Dilated(const CMask& Mask, float fRadius); // every edge pushed out by the radius
+CMask Shifted(const CMask& Mask, int iDx, int iDy);
+CMask ScaledCover(const CMask& Mask, float fFactor); // coverage times factor, clamped
+CMask Multiplied(const CMask& a, const CMask& b);    // coverage of a kept where b covers
+CMask United(const CMask& a, const CMask& b);        // the larger coverage of the two
 CMask FullMask(int iWidth, int iHeight);             // a whole picture, fully covered
 
 // Smooth value noise, about 0..1, with features near `scale` pixels; octaves add finer detail.
-class CNoise {
+class CNoise
+{
 public:
     explicit CNoise(std::uint32_t uiSeed);
     float At(float fX, float fY) const;
@@ -27,5 +28,4 @@ private:
     float Lattice(int iX, int iY) const;
     std::uint32_t m_uiSeed;
 };
-
 } // namespace art

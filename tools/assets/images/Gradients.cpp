@@ -3,14 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
-namespace art {
-
-CRgba Sample(const CRamp &vRamp, float fT)
+namespace art
 {
-    if (fT <= vRamp.front().m_fAt)
+CRgba Sample(const CRamp& vRamp, float fT)
+{
+    if(fT <= vRamp.front().m_fAt)
         return vRamp.front().m_Colour;
-    for (std::size_t i = 1; i < vRamp.size(); ++i)
-        if (fT <= vRamp[i].m_fAt) {
+    for(std::size_t i = 1; i < vRamp.size(); ++i)
+        if(fT <= vRamp[i].m_fAt)
+        {
             float fSpan = vRamp[i].m_fAt - vRamp[i - 1].m_fAt;
             float fFraction = fSpan > 0.0f ? (fT - vRamp[i - 1].m_fAt) / fSpan : 1.0f;
             // Smooth the steps between stops so that no band edges show.
@@ -26,16 +27,22 @@ CPaint Linear(float fX0, float fY0, float fX1, float fY1, CRamp vRamp)
     return [=](float fX, float fY) { return Sample(vRamp, ((fX - fX0) * fDx + (fY - fY0) * fDy) / fLen2); };
 }
 
-CPaint Vertical(float fTop, float fBottom, CRamp vRamp) { return Linear(0, fTop, 0, fBottom, std::move(vRamp)); }
+CPaint Vertical(float fTop, float fBottom, CRamp vRamp)
+{
+    return Linear(0, fTop, 0, fBottom, std::move(vRamp));
+}
 
-CPaint Radial(float fCx, float fCy, float fRadius, CRamp vRamp) { return Oval(fCx, fCy, fRadius, fRadius, std::move(vRamp)); }
+CPaint Radial(float fCx, float fCy, float fRadius, CRamp vRamp)
+{
+    return Oval(fCx, fCy, fRadius, fRadius, std::move(vRamp));
+}
 
 CPaint Oval(float fCx, float fCy, float fRx, float fRy, CRamp vRamp)
 {
-    return [=](float fX, float fY) {
+    return [=](float fX, float fY)
+    {
         float fU = (fX - fCx) / fRx, fV = (fY - fCy) / fRy;
         return Sample(vRamp, std::sqrt(fU * fU + fV * fV));
     };
 }
-
 } // namespace art

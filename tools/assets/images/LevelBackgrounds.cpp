@@ -9,11 +9,11 @@
 
 #include <cmath>
 
-namespace art {
-
-namespace {
-
-void Layer(CCanvas &Canvas, const std::function<float(float)> &fnRidge, CRgba Colour)
+namespace art
+{
+namespace
+{
+void Layer(CCanvas& Canvas, const std::function<float(float)>& fnRidge, CRgba Colour)
 {
     Canvas.Paint(BelowRidge(SCREEN_WIDTH, SCREEN_HEIGHT, fnRidge), Solid(Colour));
 }
@@ -22,9 +22,11 @@ void Layer(CCanvas &Canvas, const std::function<float(float)> &fnRidge, CRgba Co
 CCanvas Dawn()
 {
     CCanvas Canvas(SCREEN_WIDTH, SCREEN_HEIGHT);
-    Canvas.Fill(Vertical(0, 430, {{0.0f, Hex(0x070a1f)}, {0.5f, Hex(0x1b1a44)}, {0.85f, Hex(0x43294f)}, {1.0f, Hex(0x5e3448)}}));
+    Canvas.Fill(Vertical(
+        0, 430, {{0.0f, Hex(0x070a1f)}, {0.5f, Hex(0x1b1a44)}, {0.85f, Hex(0x43294f)}, {1.0f, Hex(0x5e3448)}}));
     Stars(Canvas, 1101, 160, 0, 260, 0.55f);
-    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT), Oval(560, 430, 360, 150, {{0.0f, Hex(0xd08a5a, 0.35f)}, {1.0f, Hex(0, 0)}}));
+    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT),
+                 Oval(560, 430, 360, 150, {{0.0f, Hex(0xd08a5a, 0.35f)}, {1.0f, Hex(0, 0)}}));
     Haze(Canvas, {1102, Hex(0x8a5a7a), 180, 0.14f, 0.5f, 250, 440});
     Layer(Canvas, RollingRidge(1103, 380, 40, 260), Hex(0x2a1f3f));
     Haze(Canvas, {1104, Hex(0x6a4a6a), 120, 0.12f, 0.45f, 360, 520});
@@ -59,10 +61,11 @@ CCanvas Ocean()
     Haze(Canvas, {3102, Hex(0x3a5a8a), 200, 0.12f, 0.5f, 120, 340});
     Moon(Canvas, 610, 140, 24, Hex(0xb4bccb), 0.14f);
     Canvas.Paint(BelowRidge(SCREEN_WIDTH, SCREEN_HEIGHT, [](float) { return HORIZON; }),
-            Vertical(HORIZON, SCREEN_HEIGHT, {{0.0f, Hex(0x0d2038)}, {1.0f, Hex(0x02060e)}}));
+                 Vertical(HORIZON, SCREEN_HEIGHT, {{0.0f, Hex(0x0d2038)}, {1.0f, Hex(0x02060e)}}));
     // A far headland on the horizon.
-    Layer(Canvas, [](float fX) { return fX < 260 ? HORIZON - 18 * (1 - fX / 260) * (1 - fX / 260) - 2 : HORIZON + 1; },
-          Hex(0x06101e));
+    Layer(
+        Canvas, [](float fX) { return fX < 260 ? HORIZON - 18 * (1 - fX / 260) * (1 - fX / 260) - 2 : HORIZON + 1; },
+        Hex(0x06101e));
     WaterGlints(Canvas, 3103, 610, HORIZON, 60, Hex(0xc8d6ea));
     WaterGlints(Canvas, 3104, 400, HORIZON, 380, Hex(0x3a5a80));
     Vignette(Canvas, 0.55f);
@@ -91,10 +94,12 @@ CCanvas Forest()
 CCanvas Canyon()
 {
     CCanvas Canvas(SCREEN_WIDTH, SCREEN_HEIGHT);
-    Canvas.Fill(Vertical(0, 420, {{0.0f, Hex(0x0b0a1a)}, {0.55f, Hex(0x2a1526)}, {0.85f, Hex(0x5a2a22)}, {1.0f, Hex(0x6e3a24)}}));
+    Canvas.Fill(Vertical(
+        0, 420, {{0.0f, Hex(0x0b0a1a)}, {0.55f, Hex(0x2a1526)}, {0.85f, Hex(0x5a2a22)}, {1.0f, Hex(0x6e3a24)}}));
     Stars(Canvas, 5101, 80, 0, 180, 0.4f);
     Haze(Canvas, {5102, Hex(0x8a4a3a), 170, 0.14f, 0.5f, 200, 420});
-    Layer(Canvas, [](float fX) { return 450 - 200 * std::pow(std::abs(fX - 400) / 400, 0.7f); }, Hex(0x3a1a18));
+    Layer(
+        Canvas, [](float fX) { return 450 - 200 * std::pow(std::abs(fX - 400) / 400, 0.7f); }, Hex(0x3a1a18));
     Layer(Canvas, RollingRidge(5103, 470, 30, 90), Hex(0x24100f));
     Layer(Canvas, RollingRidge(5104, 540, 25, 70), Hex(0x140908));
     Vignette(Canvas, 0.55f);
@@ -112,7 +117,7 @@ CCanvas Aurora()
     Haze(Canvas, {6103, Hex(0x7a4ab0), 140, 0.18f, 0.55f, 20, 240});
     Layer(Canvas, RollingRidge(6104, SHORE - 20, 18, 160), Hex(0x050c14));
     Canvas.Paint(BelowRidge(SCREEN_WIDTH, SCREEN_HEIGHT, [](float) { return SHORE; }),
-            Vertical(SHORE, SCREEN_HEIGHT, {{0.0f, Hex(0x1a2c3c)}, {1.0f, Hex(0x070d16)}}));
+                 Vertical(SHORE, SCREEN_HEIGHT, {{0.0f, Hex(0x1a2c3c)}, {1.0f, Hex(0x070d16)}}));
     Haze(Canvas, {6105, Hex(0x2a8a6a), 200, 0.08f, 0.5f, SHORE, SCREEN_HEIGHT});
     Vignette(Canvas, 0.6f);
     return Canvas;
@@ -123,10 +128,12 @@ CCanvas Volcano()
 {
     CCanvas Canvas(SCREEN_WIDTH, SCREEN_HEIGHT);
     Canvas.Fill(Vertical(0, SCREEN_HEIGHT, {{0.0f, Hex(0x0a0707)}, {0.6f, Hex(0x1c0f0c)}, {1.0f, Hex(0x0c0605)}}));
-    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT), Oval(420, 330, 300, 170, {{0.0f, Hex(0xb04a1a, 0.4f)}, {1.0f, Hex(0, 0)}}));
+    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT),
+                 Oval(420, 330, 300, 170, {{0.0f, Hex(0xb04a1a, 0.4f)}, {1.0f, Hex(0, 0)}}));
     Haze(Canvas, {7101, Hex(0x5a3a32), 150, 0.3f, 0.45f, 0, 360});
     Haze(Canvas, {7102, Hex(0x8a4020), 110, 0.16f, 0.55f, 150, 360});
-    Layer(Canvas, [](float fX) { return 330 + std::abs(fX - 420) * 0.55f + 10 * std::sin(fX / 37); }, Hex(0x1a0c0a));
+    Layer(
+        Canvas, [](float fX) { return 330 + std::abs(fX - 420) * 0.55f + 10 * std::sin(fX / 37); }, Hex(0x1a0c0a));
     Layer(Canvas, RollingRidge(7103, 520, 30, 110), Hex(0x0b0505));
     Vignette(Canvas, 0.6f);
     return Canvas;
@@ -140,7 +147,7 @@ CCanvas City()
     Canvas.Fill(Vertical(0, HORIZON, {{0.0f, Hex(0x05060f)}, {1.0f, Hex(0x1a1a30)}}));
     Stars(Canvas, 8101, 60, 0, 160, 0.35f);
     Canvas.Paint(BelowRidge(SCREEN_WIDTH, SCREEN_HEIGHT, [](float) { return HORIZON; }),
-            Vertical(HORIZON, SCREEN_HEIGHT, {{0.0f, Hex(0x15131f)}, {1.0f, Hex(0x07070c)}}));
+                 Vertical(HORIZON, SCREEN_HEIGHT, {{0.0f, Hex(0x15131f)}, {1.0f, Hex(0x07070c)}}));
     Stars(Canvas, 8102, 900, HORIZON + 4, SCREEN_HEIGHT, 0.28f); // the lights of the streets, dimmer near the eye
     Haze(Canvas, {8103, Hex(0x6a4a3a), 180, 0.18f, 0.45f, HORIZON - 40, HORIZON + 160});
     Vignette(Canvas, 0.65f);
@@ -152,7 +159,8 @@ CCanvas Deep()
 {
     CCanvas Canvas(SCREEN_WIDTH, SCREEN_HEIGHT);
     Canvas.Fill(Vertical(0, SCREEN_HEIGHT, {{0.0f, Hex(0x0b2a3a)}, {0.45f, Hex(0x061a28)}, {1.0f, Hex(0x020910)}}));
-    for (int i = 0; i < 5; ++i) {
+    for(int i = 0; i < 5; ++i)
+    {
         const float fX = 140.0f + 130.0f * i;
         FillShape(Canvas, Polygon({{fX, 0}, {fX + 34, 0}, {fX + 150, 430}, {fX + 90, 430}}),
                   Vertical(0, 430, {{0.0f, Hex(0x5a9ab0, 0.16f)}, {1.0f, Hex(0x5a9ab0, 0.0f)}}), 18.0f);
@@ -169,7 +177,8 @@ CCanvas Storm()
     constexpr float HORIZON = 420;
     CCanvas Canvas(SCREEN_WIDTH, SCREEN_HEIGHT);
     Canvas.Fill(Vertical(0, HORIZON, {{0.0f, Hex(0x0a0c12)}, {0.8f, Hex(0x1c2230)}, {1.0f, Hex(0x2a3040)}}));
-    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT), Oval(230, 260, 200, 120, {{0.0f, Hex(0x8a90b0, 0.22f)}, {1.0f, Hex(0, 0)}}));
+    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT),
+                 Oval(230, 260, 200, 120, {{0.0f, Hex(0x8a90b0, 0.22f)}, {1.0f, Hex(0, 0)}}));
     Haze(Canvas, {10101, Hex(0x3a4050), 200, 0.45f, 0.4f, 0, 380});
     Haze(Canvas, {10102, Hex(0x12141c), 130, 0.4f, 0.5f, 0, 340});
     Layer(Canvas, RollingRidge(10103, HORIZON, 6, 200), Hex(0x0d1210));
@@ -177,15 +186,13 @@ CCanvas Storm()
     Vignette(Canvas, 0.6f);
     return Canvas;
 }
-
 } // namespace
 
 CPictures LevelBackgrounds()
 {
-    return {InHud("bg_dawn.png", Dawn),     InHud("bg_nebula.png", Nebula),   InHud("bg_ocean.png", Ocean),
-            InHud("bg_forest.png", Forest), InHud("bg_canyon.png", Canyon),   InHud("bg_aurora.png", Aurora),
+    return {InHud("bg_dawn.png", Dawn),       InHud("bg_nebula.png", Nebula), InHud("bg_ocean.png", Ocean),
+            InHud("bg_forest.png", Forest),   InHud("bg_canyon.png", Canyon), InHud("bg_aurora.png", Aurora),
             InHud("bg_volcano.png", Volcano), InHud("bg_city.png", City),     InHud("bg_deep.png", Deep),
             InHud("bg_storm.png", Storm)};
 }
-
 } // namespace art

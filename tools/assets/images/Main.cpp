@@ -14,8 +14,8 @@
 #include "Catalogue.h"
 #include "ContactSheet.h"
 #include "PngFile.h"
-#include "TgaFile.h"
 #include "Text.h"
+#include "TgaFile.h"
 
 #include <SDL.h>
 
@@ -25,37 +25,39 @@
 #include <stdexcept>
 #include <string>
 
-namespace {
-
-struct COptions {
+namespace
+{
+struct COptions
+{
     std::string m_DataDir;
     std::string m_ContactSheet; // empty when none is wanted
-    int m_iIconSize = 0;         // above 0: write only the icon, to iconFile
+    int m_iIconSize = 0;        // above 0: write only the icon, to iconFile
     std::string m_IconFile;
 };
 
-bool ParseIcon(int iArgCount, char **ppArgs, COptions &Options)
+bool ParseIcon(int iArgCount, char** ppArgs, COptions& Options)
 {
-    if (iArgCount != 4)
+    if(iArgCount != 4)
         return false;
-    char *pEnd = nullptr;
+    char* pEnd = nullptr;
     long lSize = std::strtol(ppArgs[2], &pEnd, 10);
-    if (*pEnd != '\0' || lSize < 16 || lSize > 1024)
+    if(*pEnd != '\0' || lSize < 16 || lSize > 1024)
         return false;
     Options.m_iIconSize = static_cast<int>(lSize);
     Options.m_IconFile = ppArgs[3];
     return true;
 }
 
-bool Parse(int iArgCount, char **ppArgs, COptions &Options)
+bool Parse(int iArgCount, char** ppArgs, COptions& Options)
 {
-    if (iArgCount > 1 && std::string(ppArgs[1]) == "--icon")
+    if(iArgCount > 1 && std::string(ppArgs[1]) == "--icon")
         return ParseIcon(iArgCount, ppArgs, Options);
-    for (int i = 1; i < iArgCount; ++i) {
+    for(int i = 1; i < iArgCount; ++i)
+    {
         std::string Arg = ppArgs[i];
-        if (Arg == "--contact-sheet" && i + 1 < iArgCount)
+        if(Arg == "--contact-sheet" && i + 1 < iArgCount)
             Options.m_ContactSheet = ppArgs[++i];
-        else if (!Arg.empty() && Arg[0] != '-' && Options.m_DataDir.empty())
+        else if(!Arg.empty() && Arg[0] != '-' && Options.m_DataDir.empty())
             Options.m_DataDir = Arg;
         else
             return false;
@@ -63,54 +65,59 @@ bool Parse(int iArgCount, char **ppArgs, COptions &Options)
     return !Options.m_DataDir.empty();
 }
 
-bool EndsWith(const std::string &Text, const std::string &Tail)
+bool EndsWith(const std::string& Text, const std::string& Tail)
 {
     return Text.size() >= Tail.size() && Text.compare(Text.size() - Tail.size(), Tail.size(), Tail) == 0;
 }
 
-void WritePicture(const art::CCanvas &Canvas, const std::filesystem::path &File)
+void WritePicture(const art::CCanvas& Canvas, const std::filesystem::path& File)
 {
     std::error_code Error;
     std::filesystem::create_directories(File.parent_path(), Error);
-    if (Error)
+    if(Error)
         throw std::runtime_error("cannot make folder " + File.parent_path().string() + ": " + Error.message());
-    if (EndsWith(File.string(), ".tga"))
+    if(EndsWith(File.string(), ".tga"))
         art::SaveTga(Canvas, File.string());
     else
         art::SavePng(Canvas, File.string());
 }
 
-void Run(const COptions &Options)
+void Run(const COptions& Options)
 {
-    if (Options.m_iIconSize > 0) {
+    if(Options.m_iIconSize > 0)
+    {
         WritePicture(art::AppIcon(Options.m_iIconSize), Options.m_IconFile);
         return;
     }
     art::OpenFonts();
     art::CContactSheet Sheet;
-    for (const art::CPicture &Picture : art::Catalogue()) {
+    for(const art::CPicture& Picture : art::Catalogue())
+    {
         art::CCanvas Canvas = Picture.m_fnDraw();
         WritePicture(Canvas, std::filesystem::path(Options.m_DataDir) / Picture.m_Path);
-        if (!Options.m_ContactSheet.empty())
+        if(!Options.m_ContactSheet.empty())
             Sheet.Add(Picture.m_Path, Canvas);
     }
-    if (!Options.m_ContactSheet.empty())
+    if(!Options.m_ContactSheet.empty())
         WritePicture(Sheet.Render(), Options.m_ContactSheet);
     art::CloseFonts();
 }
-
 } // namespace
 
-int main(int iArgCount, char **ppArgs)
+int main(int iArgCount, char** ppArgs)
 {
     COptions Options;
-    if (!Parse(iArgCount, ppArgs, Options)) {
+    if(!Parse(iArgCount, ppArgs, Options))
+    {
         std::fprintf(stderr, "usage: trelvane-images OUT_DATA_DIR [--contact-sheet FILE.png] | --icon SIZE FILE.png\n");
         return 2;
     }
-    try {
+    try
+    {
         Run(Options);
-    } catch (const std::exception &Failure) {
+    }
+    catch(const std::exception& Failure)
+    {
         std::fprintf(stderr, "trelvane-images: %s\n", Failure.what());
         return 1;
     }

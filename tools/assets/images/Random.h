@@ -4,9 +4,10 @@
 
 #include <cstdint>
 
-namespace art {
-
-class CRandom {
+namespace art
+{
+class CRandom
+{
 public:
     explicit CRandom(std::uint64_t ulSeed) : m_ulState(ulSeed) {}
 
@@ -26,5 +27,4 @@ public:
 private:
     std::uint64_t m_ulState;
 };
-
 } // namespace art

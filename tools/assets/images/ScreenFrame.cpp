@@ -7,9 +7,9 @@
 #include "Theme.h"
 #include "Widgets.h"
 
-namespace art {
-
-CCanvas TitledScreen(const std::string &Title, std::uint64_t ulSeed, int iTitleSize)
+namespace art
+{
+CCanvas TitledScreen(const std::string& Title, std::uint64_t ulSeed, int iTitleSize)
 {
     CCanvas Canvas = MenuBackdrop(ulSeed);
     ScreenTitle(Canvas, Title, theme::MARGIN, 10, iTitleSize);
@@ -18,12 +18,12 @@ CCanvas TitledScreen(const std::string &Title, std::uint64_t ulSeed, int iTitleS
     return Canvas;
 }
 
-void NameMark(CCanvas &Canvas, float fCy, int iSize)
+void NameMark(CCanvas& Canvas, float fCy, int iSize)
 {
     ScreenTitle(Canvas, "Trelvane", SCREEN_WIDTH / 2.0f, fCy - LineHeight(EFace::Bold, iSize) / 2.0f, iSize, true);
 }
 
-void DecorativeChain(CCanvas &Canvas, const std::vector<CPoint> &vThrough, float fRadius, std::uint64_t ulSeed,
+void DecorativeChain(CCanvas& Canvas, const std::vector<CPoint>& vThrough, float fRadius, std::uint64_t ulSeed,
                      float fOpacity)
 {
     std::vector<CPoint> vPath = SmoothCurve(vThrough, 24);
@@ -39,17 +39,17 @@ void DecorativeChain(CCanvas &Canvas, const std::vector<CPoint> &vThrough, float
     DrawChain(Canvas, vRolling, Look);
 }
 
-void StartGlow(CCanvas &Canvas, float fStrength)
+void StartGlow(CCanvas& Canvas, float fStrength)
 {
-    Canvas.Paint(Blurred(Rasterize(RoundRect(603, 494, 173, 78, 39)), 14), Solid(WithAlpha(theme::Gold(), fStrength)), EBlend::Add);
+    Canvas.Paint(Blurred(Rasterize(RoundRect(603, 494, 173, 78, 39)), 14), Solid(WithAlpha(theme::Gold(), fStrength)),
+                 EBlend::Add);
 }
 
-float BulletLine(CCanvas &Canvas, const std::string &Text, float fX, float fY, int iWidth, int iColour)
+float BulletLine(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iWidth, int iColour)
 {
     auto aPalette = theme::Balls();
     int iCap = CapTop(EFace::Regular, theme::BODY_SIZE), iBase = Baseline(EFace::Regular, theme::BODY_SIZE);
     DrawMarble(Canvas, fX + 6, fY + (iCap + iBase) / 2.0f, 5.5f, aPalette[static_cast<std::size_t>(iColour % 6)]);
     return Paragraph(Canvas, Text, fX + 20, fY, iWidth - 20, theme::BODY_SIZE, theme::Cream()) + 6.0f;
 }
-
 } // namespace art

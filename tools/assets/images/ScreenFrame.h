@@ -9,22 +9,21 @@
 #include <string>
 #include <vector>
 
-namespace art {
-
+namespace art
+{
 // Backdrop with the title; titleSize 40 suits most screens.
-CCanvas TitledScreen(const std::string &Title, std::uint64_t ulSeed, int iTitleSize = 40);
+CCanvas TitledScreen(const std::string& Title, std::uint64_t ulSeed, int iTitleSize = 40);
 
 // The game's name in large gold letters, centred on the screen's middle and on cy.
-void NameMark(CCanvas &Canvas, float fCy, int iSize);
+void NameMark(CCanvas& Canvas, float fCy, int iSize);
 
 // A chain through the given points (smoothed), ending in a pit at the last point.
-void DecorativeChain(CCanvas &Canvas, const std::vector<CPoint> &vThrough, float fRadius, std::uint64_t ulSeed,
+void DecorativeChain(CCanvas& Canvas, const std::vector<CPoint>& vThrough, float fRadius, std::uint64_t ulSeed,
                      float fOpacity = 0.9f);
 
 // A warm glow where the start button (603, 494, 173 by 78) stands.
-void StartGlow(CCanvas &Canvas, float fStrength);
+void StartGlow(CCanvas& Canvas, float fStrength);
 
 // A line of text with a marble as its bullet; returns the y below it.
-float BulletLine(CCanvas &Canvas, const std::string &Text, float fX, float fY, int iWidth, int iColour);
-
+float BulletLine(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iWidth, int iColour);
 } // namespace art

@@ -10,11 +10,11 @@
 #include "Theme.h"
 #include "Widgets.h"
 
-namespace art {
-
-namespace {
-
-void Tagline(CCanvas &Canvas, const std::string &Text, float fY)
+namespace art
+{
+namespace
+{
+void Tagline(CCanvas& Canvas, const std::string& Text, float fY)
 {
     CTextStyle Style = Plain(EFace::Regular, 17, theme::Mist());
     Style.m_fShadow = 2.0f;
@@ -36,11 +36,11 @@ CCanvas MainMenu()
     return Canvas;
 }
 
-void HowToPlay(CCanvas &Canvas)
+void HowToPlay(CCanvas& Canvas)
 {
     GlassPanel(Canvas, 30, 96, 520, 330);
     Caption(Canvas, "HOW TO PLAY", 50, 110);
-    const char *apLines[] = {
+    const char* apLines[] = {
         "Chains of marbles roll along the tracks towards the end.",
         "Shoot a marble into a chain: three or more of one colour vanish, and the gap closes by itself.",
         "Aim with the mouse. The left button shoots, the right button swaps the two marbles ready to fire.",
@@ -50,17 +50,18 @@ void HowToPlay(CCanvas &Canvas)
     };
     float fY = 136;
     int iColour = 0;
-    for (const char *pLine : apLines)
+    for(const char* pLine : apLines)
         fY = BulletLine(Canvas, pLine, 50, fY, 480, iColour++);
 }
 
-void DangerLegend(CCanvas &Canvas)
+void DangerLegend(CCanvas& Canvas)
 {
     GlassPanel(Canvas, 570, 96, 200, 330);
     Caption(Canvas, "DANGER", 590, 110);
-    const char *apMoods[] = {"All is well", "Watch the chain", "Hurry up!", "Almost gone!"};
+    const char* apMoods[] = {"All is well", "Watch the chain", "Hurry up!", "Almost gone!"};
     CTextStyle Style = Plain(EFace::Regular, 15, theme::Cream());
-    for (int iMood = 0; iMood < FACE_COUNT; ++iMood) {
+    for(int iMood = 0; iMood < FACE_COUNT; ++iMood)
+    {
         float fY = 138 + iMood * 70.0f;
         Canvas.Draw(Face(iMood), 592, static_cast<int>(fY));
         DrawText(Canvas, apMoods[iMood], 634, LineTopFor(Style.m_eFace, Style.m_iSize, fY + 16), Style);
@@ -73,8 +74,8 @@ CCanvas SinglePlayerMenu()
     HowToPlay(Canvas);
     DangerLegend(Canvas);
     StartGlow(Canvas, 0.28f);
-    Paragraph(Canvas, "The levels come one after another, and each round rolls a little faster than the last.", 40, 456, 520,
-              15, theme::Mist());
+    Paragraph(Canvas, "The levels come one after another, and each round rolls a little faster than the last.", 40, 456,
+              520, 15, theme::Mist());
     DecorativeChain(Canvas, {{-30, 540}, {130, 510}, {300, 560}, {470, 520}, {560, 545}}, 12, 29);
     return Canvas;
 }
@@ -87,11 +88,10 @@ CCanvas SplineEditor()
     std::vector<CPoint> vHull = {{110, 470}, {180, 200}, {330, 160}, {420, 420}, {560, 460}, {650, 180}, {700, 300}};
     Canvas.Paint(Rasterize(Polyline(vHull, 1.2f)), Solid(WithAlpha(theme::Mist(), 0.5f)));
     Canvas.Paint(Rasterize(Polyline(SmoothCurve(vHull, 24), 3.0f)), Solid(theme::Gold()));
-    for (const CPoint &p : vHull)
+    for(const CPoint& p : vHull)
         DrawMarble(Canvas, p.m_fX, p.m_fY, 7, theme::Balls()[2]);
     return Canvas;
 }
-
 } // namespace
 
 CPictures MainScreens()
@@ -99,5 +99,4 @@ CPictures MainScreens()
     return {InMenus("Main_Menu.png", MainMenu), InMenus("single_player_menu.png", SinglePlayerMenu),
             InMenus("spline_editor_menu.png", SplineEditor)};
 }
-
 } // namespace art

@@ -7,18 +7,29 @@
 #include <string>
 #include <vector>
 
-namespace art {
-
-enum class EFace { Regular, Bold, Light, Oblique };
-enum class EAlign { Left, Centre, Right };
+namespace art
+{
+enum class EFace
+{
+    Regular,
+    Bold,
+    Light,
+    Oblique
+};
+enum class EAlign
+{
+    Left,
+    Centre,
+    Right
+};
 
 // Opens the fonts; throws std::runtime_error naming the missing file. Call once before any text.
 void OpenFonts();
 void CloseFonts();
 
 // The text's line box has its top-left corner at (left, top).
-CMask TextMask(EFace eFace, int iSize, const std::string &Text, int iLeft, int iTop);
-int TextWidth(EFace eFace, int iSize, const std::string &Text);
+CMask TextMask(EFace eFace, int iSize, const std::string& Text, int iLeft, int iTop);
+int TextWidth(EFace eFace, int iSize, const std::string& Text);
 int LineHeight(EFace eFace, int iSize);
 // Distance from the top of the line box to the top of a capital letter, and to the baseline.
 int CapTop(EFace eFace, int iSize);
@@ -26,7 +37,8 @@ int Baseline(EFace eFace, int iSize);
 // The top of the line box that puts the middle of the capitals at capCentre.
 float LineTopFor(EFace eFace, int iSize, float fCapCentre);
 
-struct CTextStyle {
+struct CTextStyle
+{
     EFace m_eFace = EFace::Regular;
     int m_iSize = 16;
     CPaint m_fnFill = Solid({1, 1, 1, 1});
@@ -42,12 +54,11 @@ struct CTextStyle {
 CTextStyle Plain(EFace eFace, int iSize, CRgba Colour);
 
 // x is the left edge, the centre or the right edge of the text, by align; y is the top of the line box.
-void DrawText(CCanvas &Canvas, const std::string &Text, float fX, float fY, const CTextStyle &Style,
+void DrawText(CCanvas& Canvas, const std::string& Text, float fX, float fY, const CTextStyle& Style,
               EAlign eAlign = EAlign::Left);
 // Draws text so that its capitals are centred on cy.
-void DrawTextCentredOn(CCanvas &Canvas, const std::string &Text, float fCx, float fCy, const CTextStyle &Style);
+void DrawTextCentredOn(CCanvas& Canvas, const std::string& Text, float fCx, float fCy, const CTextStyle& Style);
 
 // Words broken into lines no wider than maxWidth.
-std::vector<std::string> Wrapped(EFace eFace, int iSize, const std::string &Text, int iMaxWidth);
-
+std::vector<std::string> Wrapped(EFace eFace, int iSize, const std::string& Text, int iMaxWidth);
 } // namespace art
