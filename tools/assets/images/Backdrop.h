@@ -24,7 +24,7 @@ struct CHazeLook
 };
 void Haze(CCanvas& Canvas, const CHazeLook& Look);
 
-// Scattered stars between top and bottom; the brightest get a small halo.
+// Scattered stars between fTop and fBottom; the brightest get a small halo.
 void Stars(CCanvas& Canvas, std::uint64_t ulSeed, int iCount, float fTop, float fBottom, float fBrightness);
 
 // Darkens the corners and edges.

@@ -9,7 +9,7 @@ namespace
 {
 struct CButtonLook
 {
-    const char* m_pName; // the file names are name + "1.png" and name + "2.png" (lit)
+    const char* m_pName; // the file names are m_pName + "1.png" and m_pName + "2.png" (lit)
     int m_iWidth, m_iHeight;
     const char* m_pLabel;
     int m_iLabelSize;

@@ -18,7 +18,7 @@ struct CRgba
 CRgba Hex(std::uint32_t uiRgb, float fAlpha = 1.0f);
 CRgba Mix(CRgba From, CRgba To, float fT);
 CRgba WithAlpha(CRgba Colour, float fAlpha);
-CRgba Scaled(CRgba Colour, float fFactor); // multiplies r, g, b (clamped), alpha unchanged
+CRgba Scaled(CRgba Colour, float fFactor); // multiplies red, green and blue (clamped), alpha unchanged
 
 // Where a colour comes from at a pixel centre: a solid, a gradient, a shaded ball...
 using CPaint = std::function<CRgba(float fX, float fY)>;
@@ -30,7 +30,7 @@ enum class EBlend
     Add
 };
 
-// Coverage 0..1 over a rectangle of the picture that starts at (left, top).
+// Coverage 0..1 over a rectangle of the picture that starts at (m_iLeft, m_iTop).
 struct CMask
 {
     int m_iLeft = 0, m_iTop = 0, m_iWidth = 0, m_iHeight = 0;

@@ -2,31 +2,32 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <vector>
 
 namespace art
 {
 namespace
 {
-// One box pass along a line of n values with stride, half-width k, zero outside.
-void BoxLine(float* pData, int iCount, int iStride, int k, std::vector<float>& vScratch)
+// One box pass along a line of iCount values nStride apart, half-width k, zero outside.
+void BoxLine(float* pData, int iCount, std::ptrdiff_t nStride, int k, std::vector<float>& vScratch)
 {
     vScratch.assign(static_cast<std::size_t>(iCount), 0.0f);
     float fSum = 0.0f, fNorm = 1.0f / (2 * k + 1);
     for(int i = -k; i <= k; ++i)
         if(i >= 0 && i < iCount)
-            fSum += pData[i * iStride];
+            fSum += pData[i * nStride];
     for(int i = 0; i < iCount; ++i)
     {
         vScratch[static_cast<std::size_t>(i)] = fSum * fNorm;
         int iOut = i - k, iIn = i + k + 1;
         if(iOut >= 0)
-            fSum -= pData[iOut * iStride];
+            fSum -= pData[iOut * nStride];
         if(iIn < iCount)
-            fSum += pData[iIn * iStride];
+            fSum += pData[iIn * nStride];
     }
     for(int i = 0; i < iCount; ++i)
-        pData[i * iStride] = vScratch[static_cast<std::size_t>(i)];
+        pData[i * nStride] = vScratch[static_cast<std::size_t>(i)];
 }
 
 CMask Padded(const CMask& Mask, int iPad)

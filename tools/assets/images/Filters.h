@@ -11,12 +11,12 @@ namespace art
 CMask Blurred(const CMask& Mask, float fRadius); // Gaussian-like (three box passes), grows by the radius
 CMask Dilated(const CMask& Mask, float fRadius); // every edge pushed out by the radius
 CMask Shifted(const CMask& Mask, int iDx, int iDy);
-CMask ScaledCover(const CMask& Mask, float fFactor); // coverage times factor, clamped
+CMask ScaledCover(const CMask& Mask, float fFactor); // coverage times fFactor, clamped
 CMask Multiplied(const CMask& a, const CMask& b);    // coverage of a kept where b covers
 CMask United(const CMask& a, const CMask& b);        // the larger coverage of the two
 CMask FullMask(int iWidth, int iHeight);             // a whole picture, fully covered
 
-// Smooth value noise, about 0..1, with features near `scale` pixels; octaves add finer detail.
+// Smooth value noise, about 0..1, with features near fScale pixels; iOctaves add finer detail.
 class CNoise
 {
 public:

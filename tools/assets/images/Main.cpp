@@ -31,7 +31,7 @@ struct COptions
 {
     std::string m_DataDir;
     std::string m_ContactSheet; // empty when none is wanted
-    int m_iIconSize = 0;        // above 0: write only the icon, to iconFile
+    int m_iIconSize = 0;        // above 0: write only the icon, to m_IconFile
     std::string m_IconFile;
 };
 

@@ -28,9 +28,9 @@ CPaint SphereShade(float fCx, float fCy, float fRadius, CRgba Base)
         // Light that comes through the glass, brightest on the side away from the lamp.
         float fGlow = std::max(0.0f, -(fNx * LIGHT_X + fNy * LIGHT_Y)) * (1.0f - fNz) * 0.55f;
         float fShade = 0.22f + 0.85f * fDiffuse + fGlow;
-        CRgba c = Scaled(Base, fShade);
-        c = Mix(c, CRgba{1, 1, 1, 1}, std::min(1.0f, fShine * 0.9f));
-        return WithAlpha(c, 1.0f);
+        CRgba Colour = Scaled(Base, fShade);
+        Colour = Mix(Colour, CRgba{1, 1, 1, 1}, std::min(1.0f, fShine * 0.9f));
+        return WithAlpha(Colour, 1.0f);
     };
 }
 

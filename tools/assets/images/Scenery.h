@@ -8,7 +8,7 @@
 
 namespace art
 {
-// Everything below the ridge line ridgeY(x), with an antialiased top edge.
+// Everything below the ridge line fnRidgeY(x), with an antialiased top edge.
 CMask BelowRidge(int iWidth, int iHeight, const std::function<float(float fX)>& fnRidgeY);
 
 // A ridge line: a base height with rolling noise of the given height and feature width.
@@ -28,9 +28,9 @@ void PineWood(CCanvas& Canvas, const CWoodLook& Look);
 // A pale disc with a halo.
 void Moon(CCanvas& Canvas, float fCx, float fCy, float fRadius, CRgba Tint, float fGlow);
 
-// Horizontal glints on water below a light at x, from the horizon downwards.
+// Horizontal glints on water below a light at fX, from the horizon downwards.
 void WaterGlints(CCanvas& Canvas, std::uint64_t ulSeed, float fX, float fHorizon, float fWidth, CRgba Tint);
 
-// Small warm-green glows drifting between top and bottom.
+// Small warm-green glows drifting between fTop and fBottom.
 void Fireflies(CCanvas& Canvas, std::uint64_t ulSeed, int iCount, float fTop, float fBottom);
 } // namespace art

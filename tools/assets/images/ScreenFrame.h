@@ -11,10 +11,10 @@
 
 namespace art
 {
-// Backdrop with the title; titleSize 40 suits most screens.
+// Backdrop with the title; iTitleSize 40 suits most screens.
 CCanvas TitledScreen(const std::string& Title, std::uint64_t ulSeed, int iTitleSize = 40);
 
-// The game's name in large gold letters, centred on the screen's middle and on cy.
+// The game's name in large gold letters, centred on the screen's middle and on fCy.
 void NameMark(CCanvas& Canvas, float fCy, int iSize);
 
 // A chain through the given points (smoothed), ending in a pit at the last point.

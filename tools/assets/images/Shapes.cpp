@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace art
 {
@@ -81,17 +82,17 @@ CShape Capsule(CPoint a, CPoint b, float fRadius)
 CShape Polygon(std::vector<CPoint> vCorners)
 {
     CShape Result = BoundsOf(vCorners, 0.0f);
-    Result.m_fnDistance = [vCorners](float fX, float fY)
+    Result.m_fnDistance = [vCorners = std::move(vCorners)](float fX, float fY)
     {
         float fBest = 1e9f;
         bool bInside = false;
         for(std::size_t i = 0, j = vCorners.size() - 1; i < vCorners.size(); j = i++)
         {
-            fBest = std::min(fBest, SegmentDistance({fX, fY}, vCorners[j], vCorners[i]));
-            bool bCrosses = (vCorners[i].m_fY > fY) != (vCorners[j].m_fY > fY);
-            if(bCrosses && fX < (vCorners[j].m_fX - vCorners[i].m_fX) * (fY - vCorners[i].m_fY) /
-                                        (vCorners[j].m_fY - vCorners[i].m_fY) +
-                                    vCorners[i].m_fX)
+            const CPoint& a = vCorners[j];
+            const CPoint& b = vCorners[i];
+            fBest = std::min(fBest, SegmentDistance({fX, fY}, a, b));
+            bool bCrosses = (b.m_fY > fY) != (a.m_fY > fY);
+            if(bCrosses && fX < (a.m_fX - b.m_fX) * (fY - b.m_fY) / (a.m_fY - b.m_fY) + b.m_fX)
                 bInside = !bInside;
         }
         return bInside ? -fBest : fBest;
@@ -102,7 +103,7 @@ CShape Polygon(std::vector<CPoint> vCorners)
 CShape Polyline(std::vector<CPoint> vPoints, float fWidth)
 {
     CShape Result = BoundsOf(vPoints, fWidth / 2);
-    Result.m_fnDistance = [vPoints, fWidth](float fX, float fY)
+    Result.m_fnDistance = [vPoints = std::move(vPoints), fWidth](float fX, float fY)
     {
         float fBest = 1e9f;
         for(std::size_t i = 1; i < vPoints.size(); ++i)

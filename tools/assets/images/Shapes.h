@@ -26,7 +26,7 @@ CShape RoundRect(float fLeft, float fTop, float fWidth, float fHeight, float fRa
 CShape Capsule(CPoint a, CPoint b, float fRadius);
 CShape Polygon(std::vector<CPoint> vCorners);
 CShape Polyline(std::vector<CPoint> vPoints, float fWidth); // a stroke with round joins and caps
-// An arc of the circle, from angle a0 to a1 in radians (clockwise on screen, 0 pointing right).
+// An arc of the circle, from angle fA0 to fA1 in radians (clockwise on screen, 0 pointing right).
 CShape Arc(float fCx, float fCy, float fRadius, float fA0, float fA1, float fWidth);
 
 CShape Outline(const CShape& Shape, float fWidth); // a band of that width centred on the edge
@@ -35,10 +35,10 @@ CShape Unite(const CShape& a, const CShape& b);
 CShape Subtract(const CShape& From, const CShape& Cut);
 CShape Intersect(const CShape& a, const CShape& b);
 
-// Coverage of the shape; softness widens the edge ramp (1 is a crisp antialiased edge).
+// Coverage of the shape; fSoftness widens the edge ramp (1 is a crisp antialiased edge).
 CMask Rasterize(const CShape& Shape, float fSoftness = 1.0f);
 
-// Points of a curve through the given points (Catmull-Rom), steps points per span.
+// Points of a curve through the given points (Catmull-Rom), iSteps points per span.
 std::vector<CPoint> SmoothCurve(const std::vector<CPoint>& vThrough, int iSteps);
 // Points spaced evenly by arc length along a polyline.
 std::vector<CPoint> Spaced(const std::vector<CPoint>& vPath, float fSpacing);

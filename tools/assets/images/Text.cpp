@@ -6,6 +6,7 @@
 #include <SDL_ttf.h>
 
 #include <cmath>
+#include <cstddef>
 #include <map>
 #include <stdexcept>
 #include <utility>
@@ -85,8 +86,8 @@ CMask TextMask(EFace eFace, int iSize, const std::string& Text, int iLeft, int i
     CMask Mask(iLeft, iTop, pSurface->w, pSurface->h);
     for(int iY = 0; iY < pSurface->h; ++iY)
     {
-        const auto* pRow =
-            reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(pSurface->pixels) + iY * pSurface->pitch);
+        const auto* pRow = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(pSurface->pixels) +
+                                                           static_cast<std::ptrdiff_t>(iY) * pSurface->pitch);
         for(int iX = 0; iX < pSurface->w; ++iX)
             Mask.Cell(iLeft + iX, iTop + iY) = static_cast<float>(pRow[iX] >> 24) / 255.0f;
     }

@@ -27,14 +27,14 @@ enum class EAlign
 void OpenFonts();
 void CloseFonts();
 
-// The text's line box has its top-left corner at (left, top).
+// The text's line box has its top-left corner at (iLeft, iTop).
 CMask TextMask(EFace eFace, int iSize, const std::string& Text, int iLeft, int iTop);
 int TextWidth(EFace eFace, int iSize, const std::string& Text);
 int LineHeight(EFace eFace, int iSize);
 // Distance from the top of the line box to the top of a capital letter, and to the baseline.
 int CapTop(EFace eFace, int iSize);
 int Baseline(EFace eFace, int iSize);
-// The top of the line box that puts the middle of the capitals at capCentre.
+// The top of the line box that puts the middle of the capitals at fCapCentre.
 float LineTopFor(EFace eFace, int iSize, float fCapCentre);
 
 struct CTextStyle
@@ -53,12 +53,12 @@ struct CTextStyle
 
 CTextStyle Plain(EFace eFace, int iSize, CRgba Colour);
 
-// x is the left edge, the centre or the right edge of the text, by align; y is the top of the line box.
+// fX is the left edge, the centre or the right edge of the text, by eAlign; fY is the top of the line box.
 void DrawText(CCanvas& Canvas, const std::string& Text, float fX, float fY, const CTextStyle& Style,
               EAlign eAlign = EAlign::Left);
-// Draws text so that its capitals are centred on cy.
+// Draws text so that its capitals are centred on fCy.
 void DrawTextCentredOn(CCanvas& Canvas, const std::string& Text, float fCx, float fCy, const CTextStyle& Style);
 
-// Words broken into lines no wider than maxWidth.
+// Words broken into lines no wider than iMaxWidth.
 std::vector<std::string> Wrapped(EFace eFace, int iSize, const std::string& Text, int iMaxWidth);
 } // namespace art

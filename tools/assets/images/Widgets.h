@@ -14,7 +14,7 @@ enum class ELit
     Yes
 };
 
-// A pill-shaped button that fills the whole picture; its label is centred. Lit is the mouse-over picture:
+// A pill-shaped button that fills the whole picture; its label is centred. ELit::Yes is the mouse-over picture:
 // brighter body, gold rim and a glow round the label.
 CCanvas Button(int iWidth, int iHeight, const std::string& Label, ELit eLit, int iLabelSize);
 
@@ -25,9 +25,9 @@ void PaperField(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fH
 // Dark translucent glass with a thin rim: the game writes white and teal text on it.
 void GlassPanel(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fHeight, float fOpacity = 1.0f);
 
-// Small gold capitals over a panel, left edge at x, top of the line box at y.
+// Small gold capitals over a panel, left edge at fX, top of the line box at fY.
 void Caption(CCanvas& Canvas, const std::string& Text, float fX, float fY);
-// A screen's title: large gold letters; x is the left edge, or the centre when centred is set.
+// A screen's title: large gold letters; fX is the left edge, or the centre when bCentred is set.
 void ScreenTitle(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iSize, bool bCentred = false);
 // A thin gold line that fades out at both ends.
 void Rule(CCanvas& Canvas, float fLeft, float fRight, float fY, float fOpacity = 0.6f);
