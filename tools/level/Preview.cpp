@@ -70,22 +70,22 @@ bool ParsePreviewOptions(const std::vector<std::string>& vArgs, CPreviewOptions&
     return true;
 }
 
-art::Canvas FromRgba(const std::vector<uint8_t>& vRgba)
+art::CCanvas FromRgba(const std::vector<uint8_t>& vRgba)
 {
-    art::Canvas Frame(FRAME_WIDTH, FRAME_HEIGHT);
+    art::CCanvas Frame(FRAME_WIDTH, FRAME_HEIGHT);
     for(int y = 0; y < FRAME_HEIGHT; y++)
     {
         for(int x = 0; x < FRAME_WIDTH; x++)
         {
             const uint8_t* p = &vRgba[(static_cast<size_t>(y) * FRAME_WIDTH + static_cast<size_t>(x)) * 4];
-            Frame.pixel(x, y) = {p[0] / 255.0f, p[1] / 255.0f, p[2] / 255.0f, 1.0f};
+            Frame.Pixel(x, y) = {p[0] / 255.0f, p[1] / 255.0f, p[2] / 255.0f, 1.0f};
         }
     }
     return Frame;
 }
 
 // The level as the game loads it, for the map: a camera takes the first view's angles.
-art::Canvas DrawMap(const std::string& File, int iSize, std::vector<CMapMark>& vMarks)
+art::CCanvas DrawMap(const std::string& File, int iSize, std::vector<CMapMark>& vMarks)
 {
     CGraphicsEngine Camera;
     CLevel Level;
@@ -95,40 +95,40 @@ art::Canvas DrawMap(const std::string& File, int iSize, std::vector<CMapMark>& v
 }
 
 // The map, and to its right the first frame a player sees, scaled to the map's height.
-art::Canvas DrawPreview(CFrameGrab& Grab, const std::string& File, int iSize, std::vector<CMapMark>& vMarks)
+art::CCanvas DrawPreview(CFrameGrab& Grab, const std::string& File, int iSize, std::vector<CMapMark>& vMarks)
 {
-    const art::Canvas Map = DrawMap(File, iSize, vMarks);
+    const art::CCanvas Map = DrawMap(File, iSize, vMarks);
     Grab.PlayLevel(File, 0);
     Grab.Game().m_Graphics.RenderPlayFrame();
     std::vector<uint8_t> vRgba;
     if(!Grab.ReadFrame(vRgba) || vRgba.size() < static_cast<size_t>(FRAME_WIDTH) * FRAME_HEIGHT * 4)
         throw std::runtime_error("the first frame could not be read back");
     const int iFrameWidth = iSize * FRAME_WIDTH / FRAME_HEIGHT;
-    art::Canvas Preview(iSize + iFrameWidth, iSize);
-    Preview.draw(Map, 0, 0);
-    Preview.draw(art::resized(FromRgba(vRgba), iFrameWidth, iSize), iSize, 0);
+    art::CCanvas Preview(iSize + iFrameWidth, iSize);
+    Preview.Draw(Map, 0, 0);
+    Preview.Draw(art::Resized(FromRgba(vRgba), iFrameWidth, iSize), iSize, 0);
     return Preview;
 }
 
 // Every level's preview in a grid, each with its file name under it.
-art::Canvas DrawSheet(CFrameGrab& Grab, const CPreviewOptions& Options)
+art::CCanvas DrawSheet(CFrameGrab& Grab, const CPreviewOptions& Options)
 {
     const int iSize = static_cast<int>(Options.m_uiSize);
     const int iCellWidth = iSize + iSize * FRAME_WIDTH / FRAME_HEIGHT, iCaption = iSize / 8;
     const int iCount = static_cast<int>(Options.m_vLevels.size());
     const int iRows = (iCount + SHEET_COLUMNS - 1) / SHEET_COLUMNS;
     const int iGap = iSize / 20;
-    art::Canvas Sheet(SHEET_COLUMNS * (iCellWidth + iGap) + iGap, iRows * (iSize + iCaption + iGap) + iGap);
-    Sheet.fill(art::solid(art::hex(0x1c1f26)));
+    art::CCanvas Sheet(SHEET_COLUMNS * (iCellWidth + iGap) + iGap, iRows * (iSize + iCaption + iGap) + iGap);
+    Sheet.Fill(art::Solid(art::Hex(0x1c1f26)));
     for(int i = 0; i < iCount; i++)
     {
         std::vector<CMapMark> vMarks;
         const int iLeft = iGap + (i % SHEET_COLUMNS) * (iCellWidth + iGap);
         const int iTop = iGap + (i / SHEET_COLUMNS) * (iSize + iCaption + iGap);
-        Sheet.draw(DrawPreview(Grab, Options.m_vLevels[static_cast<size_t>(i)], iSize, vMarks), iLeft, iTop);
+        Sheet.Draw(DrawPreview(Grab, Options.m_vLevels[static_cast<size_t>(i)], iSize, vMarks), iLeft, iTop);
         const std::string Name = std::filesystem::path(Options.m_vLevels[static_cast<size_t>(i)]).filename().string();
-        art::drawText(Sheet, Name, static_cast<float>(iLeft), static_cast<float>(iTop + iSize + iCaption / 6),
-                      art::plain(art::Face::Bold, iCaption * 3 / 5, art::hex(0xdee2e6)));
+        art::DrawText(Sheet, Name, static_cast<float>(iLeft), static_cast<float>(iTop + iSize + iCaption / 6),
+                      art::Plain(art::EFace::Bold, iCaption * 3 / 5, art::Hex(0xdee2e6)));
     }
     return Sheet;
 }
@@ -145,13 +145,13 @@ int Draw(const CPreviewOptions& Options)
     std::string Reason;
     if(!Grab.Open(Reason))
         return FailLevelTool(Reason);
-    art::openFonts();
+    art::OpenFonts();
     std::vector<CMapMark> vMarks;
-    const art::Canvas Picture = Options.m_vLevels.size() == 1
+    const art::CCanvas Picture = Options.m_vLevels.size() == 1
                                     ? DrawPreview(Grab, Options.m_vLevels[0], static_cast<int>(Options.m_uiSize), vMarks)
                                     : DrawSheet(Grab, Options);
-    art::savePng(Picture, Options.m_OutFile);
-    art::closeFonts();
+    art::SavePng(Picture, Options.m_OutFile);
+    art::CloseFonts();
     if(Options.m_bMarks)
         PrintMarks(vMarks);
     return std::fflush(stdout) == 0 ? EXIT_SUCCESS : LEVEL_EXIT_BAD_INPUT;

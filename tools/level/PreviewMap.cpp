@@ -21,7 +21,7 @@ struct CMapping
     float m_fMinX = 0.0f, m_fMaxZ = 0.0f, m_fScale = 1.0f, m_fLeft = 0.0f, m_fTop = 0.0f;
     float m_fMinY = 0.0f, m_fMaxY = 1.0f;
 
-    art::Point At(const CPoint3& p) const
+    art::CPoint At(const CPoint3& p) const
     {
         return {m_fLeft + (p.x() - m_fMinX) * m_fScale, m_fTop + (m_fMaxZ - p.z()) * m_fScale};
     }
@@ -66,43 +66,44 @@ CMapping FitMap(const CLevel& Level, const CPoint3& Eye, int iSize)
     return Map;
 }
 
-void Stroke(art::Canvas& Canvas, art::Point a, art::Point b, float fWidth, art::Rgba Colour)
+void Stroke(art::CCanvas& Canvas, art::CPoint a, art::CPoint b, float fWidth, art::CRgba Colour)
 {
-    art::fillShape(Canvas, art::capsule(a, b, fWidth / 2.0f), art::solid(Colour));
+    art::FillShape(Canvas, art::Capsule(a, b, fWidth / 2.0f), art::Solid(Colour));
 }
 
-void Arrowhead(art::Canvas& Canvas, art::Point Tip, float fDx, float fDy, float fSize, art::Rgba Colour)
+void Arrowhead(art::CCanvas& Canvas, art::CPoint Tip, float fDx, float fDy, float fSize, art::CRgba Colour)
 {
     const float fLength = std::max(std::hypot(fDx, fDy), 1e-6f);
     const float ux = fDx / fLength, uy = fDy / fLength;
-    art::fillShape(Canvas,
-                   art::polygon({Tip,
-                                 {Tip.x - fSize * ux + fSize * 0.55f * uy, Tip.y - fSize * uy - fSize * 0.55f * ux},
-                                 {Tip.x - fSize * ux - fSize * 0.55f * uy, Tip.y - fSize * uy + fSize * 0.55f * ux}}),
-                   art::solid(Colour));
+    art::FillShape(
+        Canvas,
+        art::Polygon({Tip,
+                      {Tip.m_fX - fSize * ux + fSize * 0.55f * uy, Tip.m_fY - fSize * uy - fSize * 0.55f * ux},
+                      {Tip.m_fX - fSize * ux - fSize * 0.55f * uy, Tip.m_fY - fSize * uy + fSize * 0.55f * ux}}),
+        art::Solid(Colour));
 }
 
 // A label kept whole inside the picture, with a dark rim so that it reads over any line.
-void Label(art::Canvas& Canvas, const std::string& Text, float x, float y, art::Rgba Colour, int iSize)
+void Label(art::CCanvas& Canvas, const std::string& Text, float x, float y, art::CRgba Colour, int iSize)
 {
-    art::TextStyle Style = art::plain(art::Face::Bold, iSize, Colour);
-    Style.outline = 2.5f;
-    const float fWidth = static_cast<float>(art::textWidth(art::Face::Bold, iSize, Text));
-    const float fHeight = static_cast<float>(art::lineHeight(art::Face::Bold, iSize));
-    x = std::clamp(x, 2.0f, static_cast<float>(Canvas.width()) - fWidth - 2.0f);
-    y = std::clamp(y, 2.0f, static_cast<float>(Canvas.height()) - fHeight - 2.0f);
-    art::drawText(Canvas, Text, x, y, Style);
+    art::CTextStyle Style = art::Plain(art::EFace::Bold, iSize, Colour);
+    Style.m_fOutline = 2.5f;
+    const float fWidth = static_cast<float>(art::TextWidth(art::EFace::Bold, iSize, Text));
+    const float fHeight = static_cast<float>(art::LineHeight(art::EFace::Bold, iSize));
+    x = std::clamp(x, 2.0f, static_cast<float>(Canvas.Width()) - fWidth - 2.0f);
+    y = std::clamp(y, 2.0f, static_cast<float>(Canvas.Height()) - fHeight - 2.0f);
+    art::DrawText(Canvas, Text, x, y, Style);
 }
 
 struct CSegment
 {
-    art::Point m_A, m_B;
+    art::CPoint m_A, m_B;
     float m_fHeight;
-    art::Rgba m_Colour;
+    art::CRgba m_Colour;
 };
 
 // Every track's stretches, lowest first, so that a track passing over another is drawn on top of it.
-void DrawTrackLines(art::Canvas& Canvas, const CLevel& Level, const CMapping& Map, float fWidth)
+void DrawTrackLines(art::CCanvas& Canvas, const CLevel& Level, const CMapping& Map, float fWidth)
 {
     std::vector<CSegment> vSegments;
     for(size_t i = 0; i < Level.m_vTracks.size(); i++)
@@ -112,7 +113,7 @@ void DrawTrackLines(art::Canvas& Canvas, const CLevel& Level, const CMapping& Ma
         {
             const float fHeight = (vSamples[j - 1].y() + vSamples[j].y()) / 2.0f;
             vSegments.push_back({Map.At(vSamples[j - 1]), Map.At(vSamples[j]), fHeight,
-                                 art::scaled(TrackColour(i), Map.Brightness(fHeight))});
+                                 art::Scaled(TrackColour(i), Map.Brightness(fHeight))});
         }
     }
     std::stable_sort(vSegments.begin(), vSegments.end(),
@@ -121,94 +122,97 @@ void DrawTrackLines(art::Canvas& Canvas, const CLevel& Level, const CMapping& Ma
         Stroke(Canvas, Segment.m_A, Segment.m_B, fWidth, Segment.m_Colour);
 }
 
-void MarkTrack(art::Canvas& Canvas, const CTrack& Track, size_t Index, const CMapping& Map, float fUnit,
+void MarkTrack(art::CCanvas& Canvas, const CTrack& Track, size_t Index, const CMapping& Map, float fUnit,
                std::vector<CMapMark>& vMarks)
 {
     const std::vector<CPoint3>& vPoints = Track.m_Spline.m_vPoints;
     if(vPoints.size() < 2)
         return;
-    const art::Rgba Colour = TrackColour(Index);
+    const art::CRgba Colour = TrackColour(Index);
     const std::string Name = "T" + std::to_string(Index + 1);
     for(int k = 1; k <= ARROWS_PER_TRACK; k++)
     {
         const size_t At = vPoints.size() * static_cast<size_t>(k) / (ARROWS_PER_TRACK + 1);
-        const art::Point Tip = Map.At(vPoints[At]), Back = Map.At(vPoints[At - 1]);
-        Arrowhead(Canvas, Tip, Tip.x - Back.x, Tip.y - Back.y, 2.6f * fUnit, Colour);
+        const art::CPoint Tip = Map.At(vPoints[At]), Back = Map.At(vPoints[At - 1]);
+        Arrowhead(Canvas, Tip, Tip.m_fX - Back.m_fX, Tip.m_fY - Back.m_fY, 2.6f * fUnit, Colour);
     }
-    const art::Point Start = Map.At(vPoints.front()), End = Map.At(vPoints.back());
-    art::fillShape(Canvas, art::outline(art::circle(Start.x, Start.y, 2.4f * fUnit), 1.2f * fUnit), art::solid(Colour));
-    art::fillShape(Canvas, art::roundRect(End.x - 1.8f * fUnit, End.y - 1.8f * fUnit, 3.6f * fUnit, 3.6f * fUnit, 0.5f),
-                   art::solid(Colour));
-    vMarks.push_back({Name + " start", Start.x, Start.y, Colour});
-    vMarks.push_back({Name + " end", End.x, End.y, Colour});
-    Label(Canvas, Name + " " + std::to_string(Track.m_vColourQueue.size()) + " balls", Start.x + 3.0f * fUnit,
-          Start.y - 6.0f * fUnit, Colour, static_cast<int>(4.2f * fUnit));
+    const art::CPoint Start = Map.At(vPoints.front()), End = Map.At(vPoints.back());
+    art::FillShape(Canvas, art::Outline(art::Circle(Start.m_fX, Start.m_fY, 2.4f * fUnit), 1.2f * fUnit),
+                   art::Solid(Colour));
+    art::FillShape(Canvas,
+                   art::RoundRect(End.m_fX - 1.8f * fUnit, End.m_fY - 1.8f * fUnit, 3.6f * fUnit, 3.6f * fUnit, 0.5f),
+                   art::Solid(Colour));
+    vMarks.push_back({Name + " start", Start.m_fX, Start.m_fY, Colour});
+    vMarks.push_back({Name + " end", End.m_fX, End.m_fY, Colour});
+    Label(Canvas, Name + " " + std::to_string(Track.m_vColourQueue.size()) + " balls", Start.m_fX + 3.0f * fUnit,
+          Start.m_fY - 6.0f * fUnit, Colour, static_cast<int>(4.2f * fUnit));
 }
 
-void DrawCameraPaths(art::Canvas& Canvas, const CLevel& Level, const CMapping& Map, float fUnit,
+void DrawCameraPaths(art::CCanvas& Canvas, const CLevel& Level, const CMapping& Map, float fUnit,
                      std::vector<CMapMark>& vMarks)
 {
-    const art::Rgba White = art::hex(0xf1f3f5);
+    const art::CRgba White = art::Hex(0xf1f3f5);
     for(size_t i = 0; i < Level.m_vCameraPaths.size(); i++)
     {
         const std::vector<CPoint3>& vPoints = Level.m_vCameraPaths[i].m_Spline.m_vPoints;
         if(vPoints.empty())
             continue;
-        const art::Point Start = Map.At(vPoints.front()), End = Map.At(vPoints.back());
+        const art::CPoint Start = Map.At(vPoints.front()), End = Map.At(vPoints.back());
         const size_t Step = std::max<size_t>(1, vPoints.size() / 200);
         for(size_t j = Step; j < vPoints.size(); j += Step)
             Stroke(Canvas, Map.At(vPoints[j - Step]), Map.At(vPoints[j]), 0.8f * fUnit, White);
-        art::fillShape(Canvas, art::circle(Start.x, Start.y, 1.6f * fUnit), art::solid(White));
-        if(std::hypot(End.x - Start.x, End.y - Start.y) > 4.0f * fUnit)
+        art::FillShape(Canvas, art::Circle(Start.m_fX, Start.m_fY, 1.6f * fUnit), art::Solid(White));
+        if(std::hypot(End.m_fX - Start.m_fX, End.m_fY - Start.m_fY) > 4.0f * fUnit)
         {
-            const art::Point Back = Map.At(vPoints[vPoints.size() - 1 - std::min<size_t>(vPoints.size() - 1, 20)]);
-            Arrowhead(Canvas, End, End.x - Back.x, End.y - Back.y, 3.0f * fUnit, White);
+            const art::CPoint Back = Map.At(vPoints[vPoints.size() - 1 - std::min<size_t>(vPoints.size() - 1, 20)]);
+            Arrowhead(Canvas, End, End.m_fX - Back.m_fX, End.m_fY - Back.m_fY, 3.0f * fUnit, White);
         }
         const std::string Name = "C" + std::to_string(i + 1);
-        vMarks.push_back({Name + " start", Start.x, Start.y, White});
-        Label(Canvas, Name, Start.x + 2.5f * fUnit, Start.y + 1.5f * fUnit, White, static_cast<int>(4.0f * fUnit));
+        vMarks.push_back({Name + " start", Start.m_fX, Start.m_fY, White});
+        Label(Canvas, Name, Start.m_fX + 2.5f * fUnit, Start.m_fY + 1.5f * fUnit, White,
+              static_cast<int>(4.0f * fUnit));
     }
 }
 
-void DrawSight(art::Canvas& Canvas, const CPoint3& Eye, float fYaw, float fPitch, const CMapping& Map, float fUnit)
+void DrawSight(art::CCanvas& Canvas, const CPoint3& Eye, float fYaw, float fPitch, const CMapping& Map, float fUnit)
 {
-    const art::Rgba Sight = art::hex(0xadb5bd);
+    const art::CRgba Sight = art::Hex(0xadb5bd);
     const float fRadians = fYaw * 3.14159265f / 180.0f;
-    const art::Point From = Map.At(Eye);
-    const float fLength = 0.22f * static_cast<float>(Canvas.width());
-    const art::Point To = {From.x + std::sin(fRadians) * fLength, From.y - std::cos(fRadians) * fLength};
+    const art::CPoint From = Map.At(Eye);
+    const float fLength = 0.22f * static_cast<float>(Canvas.Width());
+    const art::CPoint To = {From.m_fX + std::sin(fRadians) * fLength, From.m_fY - std::cos(fRadians) * fLength};
     const int iDashes = 9;
     for(int i = 0; i < iDashes; i += 2)
     {
         const float a = static_cast<float>(i) / iDashes, b = static_cast<float>(i + 1) / iDashes;
-        Stroke(Canvas, {From.x + (To.x - From.x) * a, From.y + (To.y - From.y) * a},
-               {From.x + (To.x - From.x) * b, From.y + (To.y - From.y) * b}, 0.7f * fUnit, Sight);
+        Stroke(Canvas, {From.m_fX + (To.m_fX - From.m_fX) * a, From.m_fY + (To.m_fY - From.m_fY) * a},
+               {From.m_fX + (To.m_fX - From.m_fX) * b, From.m_fY + (To.m_fY - From.m_fY) * b}, 0.7f * fUnit, Sight);
     }
-    Arrowhead(Canvas, To, To.x - From.x, To.y - From.y, 2.6f * fUnit, Sight);
+    Arrowhead(Canvas, To, To.m_fX - From.m_fX, To.m_fY - From.m_fY, 2.6f * fUnit, Sight);
     char szText[48];
     std::snprintf(szText, sizeof(szText), "first view, pitch %.0f", fPitch);
-    Label(Canvas, szText, To.x + 1.5f * fUnit, To.y, Sight, static_cast<int>(3.6f * fUnit));
+    Label(Canvas, szText, To.m_fX + 1.5f * fUnit, To.m_fY, Sight, static_cast<int>(3.6f * fUnit));
 }
 
-void DrawLegend(art::Canvas& Canvas, const CMapping& Map, float fUnit)
+void DrawLegend(art::CCanvas& Canvas, const CMapping& Map, float fUnit)
 {
     char szText[96];
     std::snprintf(szText, sizeof(szText), "seen from above: x to the right, z up; brighter is higher (y %.0f to %.0f)",
                   Map.m_fMinY, Map.m_fMaxY);
     const int iSize = static_cast<int>(3.3f * fUnit);
-    Label(Canvas, szText, 1.5f * fUnit, static_cast<float>(Canvas.height()), art::hex(0x868e96), iSize);
+    Label(Canvas, szText, 1.5f * fUnit, static_cast<float>(Canvas.Height()), art::Hex(0x868e96), iSize);
 }
 } // namespace
 
-art::Rgba TrackColour(size_t Index)
+art::CRgba TrackColour(size_t Index)
 {
-    return art::hex(TRACK_COLOURS[Index % (sizeof(TRACK_COLOURS) / sizeof(TRACK_COLOURS[0]))]);
+    return art::Hex(TRACK_COLOURS[Index % (sizeof(TRACK_COLOURS) / sizeof(TRACK_COLOURS[0]))]);
 }
 
-art::Canvas DrawLevelMap(const CLevel& Level, float fYaw, float fPitch, int iSize, std::vector<CMapMark>& vMarks)
+art::CCanvas DrawLevelMap(const CLevel& Level, float fYaw, float fPitch, int iSize, std::vector<CMapMark>& vMarks)
 {
-    art::Canvas Canvas(iSize, iSize);
-    Canvas.fill(art::solid(art::hex(0x101418)));
+    art::CCanvas Canvas(iSize, iSize);
+    Canvas.Fill(art::Solid(art::Hex(0x101418)));
     const bool bHasEye = !Level.m_vCameraPaths.empty() && !Level.m_vCameraPaths[0].m_Spline.m_vPoints.empty();
     const CPoint3 Eye = bHasEye ? Level.m_vCameraPaths[0].m_Spline.m_vPoints[0] : CPoint3(0.0f, 0.0f, 0.0f);
     const CMapping Map = FitMap(Level, Eye, iSize);

@@ -6,39 +6,39 @@
 
 #include <cmath>
 
-namespace art {
-
-namespace {
-
-constexpr int kIconMarbles = 7;
+namespace art
+{
+namespace
+{
+constexpr int ICON_MARBLES = 7;
 
 // The marbles run inwards from the rim, growing smaller, so the chain reads as rolling into the pit.
-void iconChain(Canvas &c, float scale)
+void IconChain(CCanvas& Canvas, float fScale)
 {
-    auto colours = theme::balls();
-    for (int i = 0; i < kIconMarbles; ++i) {
-        float t = static_cast<float>(i) / (kIconMarbles - 1);
-        float angle = (-150.0f + 300.0f * t) * 3.14159265f / 180.0f;
-        float reach = (88.0f - 36.0f * t) * scale;
-        float radius = (25.0f - 10.0f * t) * scale;
-        drawMarble(c, 128.0f * scale + reach * std::cos(angle), 128.0f * scale + reach * std::sin(angle), radius,
-                   colours[static_cast<std::size_t>(i) % colours.size()]);
+    auto aColours = theme::Balls();
+    for(int i = 0; i < ICON_MARBLES; ++i)
+    {
+        float fT = static_cast<float>(i) / (ICON_MARBLES - 1);
+        float fAngle = (-150.0f + 300.0f * fT) * 3.14159265f / 180.0f;
+        float fReach = (88.0f - 36.0f * fT) * fScale;
+        float fRadius = (25.0f - 10.0f * fT) * fScale;
+        DrawMarble(Canvas, 128.0f * fScale + fReach * std::cos(fAngle), 128.0f * fScale + fReach * std::sin(fAngle),
+                   fRadius, aColours[static_cast<std::size_t>(i) % aColours.size()]);
     }
 }
-
 } // namespace
 
-Canvas appIcon(int size)
+CCanvas AppIcon(int iSize)
 {
-    Canvas c(size, size);
-    float scale = static_cast<float>(size) / 256.0f;
-    float centre = 128.0f * scale;
-    c.paint(rasterize(circle(centre, centre, 122.0f * scale)),
-            radial(centre, centre * 0.8f, 130.0f * scale, {{0.0f, theme::nightLow()}, {1.0f, theme::nightTop()}}));
-    c.paint(rasterize(outline(circle(centre, centre, 119.0f * scale), 6.0f * scale)), solid(theme::gold()));
-    drawPit(c, centre, centre, 24.0f * scale);
-    iconChain(c, scale);
-    return c;
+    CCanvas Canvas(iSize, iSize);
+    float fScale = static_cast<float>(iSize) / 256.0f;
+    float fCentre = 128.0f * fScale;
+    Canvas.Paint(
+        Rasterize(Circle(fCentre, fCentre, 122.0f * fScale)),
+        Radial(fCentre, fCentre * 0.8f, 130.0f * fScale, {{0.0f, theme::NightLow()}, {1.0f, theme::NightTop()}}));
+    Canvas.Paint(Rasterize(Outline(Circle(fCentre, fCentre, 119.0f * fScale), 6.0f * fScale)), Solid(theme::Gold()));
+    DrawPit(Canvas, fCentre, fCentre, 24.0f * fScale);
+    IconChain(Canvas, fScale);
+    return Canvas;
 }
-
 } // namespace art

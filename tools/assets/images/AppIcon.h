@@ -3,9 +3,8 @@
 
 #include "Canvas.h"
 
-namespace art {
-
+namespace art
+{
 // A square picture of that many pixels on a clear background, drawn at its own size so that small icons stay sharp.
-Canvas appIcon(int size);
-
+CCanvas AppIcon(int iSize);
 } // namespace art

@@ -7,29 +7,29 @@
 
 #include <cstdint>
 
-namespace art {
-
-constexpr int kScreenWidth = 800;
-constexpr int kScreenHeight = 600;
+namespace art
+{
+constexpr int SCREEN_WIDTH = 800;
+constexpr int SCREEN_HEIGHT = 600;
 
 // Soft clouds: noise shaped into wisps of the colour, strongest where the noise is high.
-struct HazeLook {
-    std::uint32_t seed = 1;
-    Rgba colour{1, 1, 1, 1};
-    float scale = 160.0f;    // feature size in pixels
-    float strength = 0.3f;   // the most alpha a wisp reaches
-    float threshold = 0.45f; // noise below this leaves the sky clear
-    float top = 0.0f, bottom = kScreenHeight; // the band the haze fades in and out of
+struct CHazeLook
+{
+    std::uint32_t m_uiSeed = 1;
+    CRgba m_Colour{1, 1, 1, 1};
+    float m_fScale = 160.0f;                        // feature size in pixels
+    float m_fStrength = 0.3f;                       // the most alpha a wisp reaches
+    float m_fThreshold = 0.45f;                     // noise below this leaves the sky clear
+    float m_fTop = 0.0f, m_fBottom = SCREEN_HEIGHT; // the band the haze fades in and out of
 };
-void haze(Canvas &canvas, const HazeLook &look);
+void Haze(CCanvas& Canvas, const CHazeLook& Look);
 
-// Scattered stars between top and bottom; the brightest get a small halo.
-void stars(Canvas &canvas, std::uint64_t seed, int count, float top, float bottom, float brightness);
+// Scattered stars between fTop and fBottom; the brightest get a small halo.
+void Stars(CCanvas& Canvas, std::uint64_t ulSeed, int iCount, float fTop, float fBottom, float fBrightness);
 
 // Darkens the corners and edges.
-void vignette(Canvas &canvas, float strength);
+void Vignette(CCanvas& Canvas, float fStrength);
 
 // The night ground of every menu screen.
-Canvas menuBackdrop(std::uint64_t seed);
-
+CCanvas MenuBackdrop(std::uint64_t ulSeed);
 } // namespace art

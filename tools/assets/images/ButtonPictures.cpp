@@ -3,18 +3,19 @@
 #include "Catalogue.h"
 #include "Widgets.h"
 
-namespace art {
-
-namespace {
-
-struct ButtonLook {
-    const char *name; // the file names are name + "1.png" and name + "2.png" (lit)
-    int width, height;
-    const char *label;
-    int labelSize;
+namespace art
+{
+namespace
+{
+struct CButtonLook
+{
+    const char* m_pName; // the file names are m_pName + "1.png" and m_pName + "2.png" (lit)
+    int m_iWidth, m_iHeight;
+    const char* m_pLabel;
+    int m_iLabelSize;
 };
 
-const ButtonLook kButtons[] = {
+const CButtonLook BUTTONS[] = {
     {"Single_Player", 244, 37, "Single Player", 18},
     {"Multi_Player", 244, 37, "Multi Player", 18},
     {"Spline_Editor", 244, 37, "Spline Editor", 18},
@@ -26,18 +27,19 @@ const ButtonLook kButtons[] = {
     {"connect_client", 291, 38, "Join as Client", 18},
     {"connect_server", 291, 38, "Host as Server", 18},
 };
-
 } // namespace
 
-Pictures buttonPictures()
+CPictures ButtonPictures()
 {
-    Pictures out;
-    for (const ButtonLook &b : kButtons)
-        for (Lit lit : {Lit::No, Lit::Yes}) {
-            std::string file = std::string(b.name) + (lit == Lit::Yes ? "2.png" : "1.png");
-            out.push_back(inMenus(file, [b, lit] { return button(b.width, b.height, b.label, lit, b.labelSize); }));
+    CPictures vOut;
+    for(const CButtonLook& Look : BUTTONS)
+        for(ELit eLit : {ELit::No, ELit::Yes})
+        {
+            std::string File = std::string(Look.m_pName) + (eLit == ELit::Yes ? "2.png" : "1.png");
+            vOut.push_back(
+                InMenus(File, [Look, eLit]
+                        { return Button(Look.m_iWidth, Look.m_iHeight, Look.m_pLabel, eLit, Look.m_iLabelSize); }));
         }
-    return out;
+    return vOut;
 }
-
 } // namespace art

@@ -3,149 +3,169 @@
 #include <algorithm>
 #include <cmath>
 
-namespace art {
+namespace art
+{
+namespace
+{
+float Clamp01(float fV)
+{
+    return std::min(1.0f, std::max(0.0f, fV));
+}
 
-namespace {
-
-float clamp01(float v) { return std::min(1.0f, std::max(0.0f, v)); }
-
-std::uint32_t toByte(float v) { return static_cast<std::uint32_t>(std::lround(clamp01(v) * 255.0f)); }
-
+std::uint32_t ToByte(float fV)
+{
+    return static_cast<std::uint32_t>(std::lround(Clamp01(fV) * 255.0f));
+}
 } // namespace
 
-Rgba hex(std::uint32_t rgb, float alpha)
+CRgba Hex(std::uint32_t uiRgb, float fAlpha)
 {
-    return {((rgb >> 16) & 0xff) / 255.0f, ((rgb >> 8) & 0xff) / 255.0f, (rgb & 0xff) / 255.0f, alpha};
+    return {((uiRgb >> 16) & 0xff) / 255.0f, ((uiRgb >> 8) & 0xff) / 255.0f, (uiRgb & 0xff) / 255.0f, fAlpha};
 }
 
-Rgba mix(Rgba from, Rgba to, float t)
+CRgba Mix(CRgba From, CRgba To, float fT)
 {
-    return {from.r + (to.r - from.r) * t, from.g + (to.g - from.g) * t, from.b + (to.b - from.b) * t,
-            from.a + (to.a - from.a) * t};
+    return {From.m_fR + (To.m_fR - From.m_fR) * fT, From.m_fG + (To.m_fG - From.m_fG) * fT,
+            From.m_fB + (To.m_fB - From.m_fB) * fT, From.m_fA + (To.m_fA - From.m_fA) * fT};
 }
 
-Rgba withAlpha(Rgba colour, float alpha)
+CRgba WithAlpha(CRgba Colour, float fAlpha)
 {
-    colour.a = alpha;
-    return colour;
+    Colour.m_fA = fAlpha;
+    return Colour;
 }
 
-Rgba scaled(Rgba colour, float factor)
+CRgba Scaled(CRgba Colour, float fFactor)
 {
-    return {clamp01(colour.r * factor), clamp01(colour.g * factor), clamp01(colour.b * factor), colour.a};
+    return {Clamp01(Colour.m_fR * fFactor), Clamp01(Colour.m_fG * fFactor), Clamp01(Colour.m_fB * fFactor),
+            Colour.m_fA};
 }
 
-Paint solid(Rgba colour)
+CPaint Solid(CRgba Colour)
 {
-    return [colour](float, float) { return colour; };
+    return [Colour](float, float) { return Colour; };
 }
 
-Mask::Mask(int l, int t, int w, int h)
-    : left(l), top(t), width(std::max(0, w)), height(std::max(0, h)),
-      cover(static_cast<std::size_t>(width) * height, 0.0f)
+CMask::CMask(int iLeft, int iTop, int iWidth, int iHeight)
+    : m_iLeft(iLeft), m_iTop(iTop), m_iWidth(std::max(0, iWidth)), m_iHeight(std::max(0, iHeight)),
+      m_vCover(static_cast<std::size_t>(m_iWidth) * m_iHeight, 0.0f)
 {
 }
 
-float Mask::at(int x, int y) const
+float CMask::At(int iX, int iY) const
 {
-    if (x < left || y < top || x >= left + width || y >= top + height)
+    if(iX < m_iLeft || iY < m_iTop || iX >= m_iLeft + m_iWidth || iY >= m_iTop + m_iHeight)
         return 0.0f;
-    return cover[static_cast<std::size_t>(y - top) * width + (x - left)];
+    return m_vCover[static_cast<std::size_t>(iY - m_iTop) * m_iWidth + (iX - m_iLeft)];
 }
 
-Canvas::Canvas(int width, int height) : w_(width), h_(height), px_(static_cast<std::size_t>(width) * height) {}
-
-void Canvas::fill(const Paint &paint)
+CCanvas::CCanvas(int iWidth, int iHeight)
+    : m_iWidth(iWidth), m_iHeight(iHeight), m_vPixels(static_cast<std::size_t>(iWidth) * iHeight)
 {
-    for (int y = 0; y < h_; ++y)
-        for (int x = 0; x < w_; ++x) {
-            Rgba c = paint(x + 0.5f, y + 0.5f);
-            pixel(x, y) = {c.r * c.a, c.g * c.a, c.b * c.a, c.a};
+}
+
+void CCanvas::Fill(const CPaint& fnPaint)
+{
+    for(int iY = 0; iY < m_iHeight; ++iY)
+        for(int iX = 0; iX < m_iWidth; ++iX)
+        {
+            CRgba Colour = fnPaint(iX + 0.5f, iY + 0.5f);
+            Pixel(iX, iY) = {Colour.m_fR * Colour.m_fA, Colour.m_fG * Colour.m_fA, Colour.m_fB * Colour.m_fA,
+                             Colour.m_fA};
         }
 }
 
-void Canvas::blendPixel(int x, int y, Rgba s, float coverage, Blend blend)
+void CCanvas::BlendPixel(int iX, int iY, CRgba Straight, float fCoverage, EBlend eBlend)
 {
-    float a = clamp01(s.a * coverage);
-    if (a <= 0.0f)
+    float fA = Clamp01(Straight.m_fA * fCoverage);
+    if(fA <= 0.0f)
         return;
-    Rgba &d = pixel(x, y);
-    if (blend == Blend::Add) {
-        d.r = std::min(1.0f, d.r + s.r * a);
-        d.g = std::min(1.0f, d.g + s.g * a);
-        d.b = std::min(1.0f, d.b + s.b * a);
-        d.a = std::max(d.a, a);
+    CRgba& Dest = Pixel(iX, iY);
+    if(eBlend == EBlend::Add)
+    {
+        Dest.m_fR = std::min(1.0f, Dest.m_fR + Straight.m_fR * fA);
+        Dest.m_fG = std::min(1.0f, Dest.m_fG + Straight.m_fG * fA);
+        Dest.m_fB = std::min(1.0f, Dest.m_fB + Straight.m_fB * fA);
+        Dest.m_fA = std::max(Dest.m_fA, fA);
         return;
     }
-    float keep = 1.0f - a;
-    d.r = s.r * a + d.r * keep;
-    d.g = s.g * a + d.g * keep;
-    d.b = s.b * a + d.b * keep;
-    d.a = a + d.a * keep;
+    float fKeep = 1.0f - fA;
+    Dest.m_fR = Straight.m_fR * fA + Dest.m_fR * fKeep;
+    Dest.m_fG = Straight.m_fG * fA + Dest.m_fG * fKeep;
+    Dest.m_fB = Straight.m_fB * fA + Dest.m_fB * fKeep;
+    Dest.m_fA = fA + Dest.m_fA * fKeep;
 }
 
-void Canvas::paint(const Mask &mask, const Paint &paint, Blend blend, float opacity)
+void CCanvas::Paint(const CMask& Mask, const CPaint& fnPaint, EBlend eBlend, float fOpacity)
 {
-    int x0 = std::max(0, mask.left), y0 = std::max(0, mask.top);
-    int x1 = std::min(w_, mask.left + mask.width), y1 = std::min(h_, mask.top + mask.height);
-    for (int y = y0; y < y1; ++y)
-        for (int x = x0; x < x1; ++x) {
-            float c = mask.cover[static_cast<std::size_t>(y - mask.top) * mask.width + (x - mask.left)];
-            if (c > 0.0f)
-                blendPixel(x, y, paint(x + 0.5f, y + 0.5f), c * opacity, blend);
+    int iX0 = std::max(0, Mask.m_iLeft), iY0 = std::max(0, Mask.m_iTop);
+    int iX1 = std::min(m_iWidth, Mask.m_iLeft + Mask.m_iWidth), iY1 = std::min(m_iHeight, Mask.m_iTop + Mask.m_iHeight);
+    for(int iY = iY0; iY < iY1; ++iY)
+        for(int iX = iX0; iX < iX1; ++iX)
+        {
+            float fCover =
+                Mask.m_vCover[static_cast<std::size_t>(iY - Mask.m_iTop) * Mask.m_iWidth + (iX - Mask.m_iLeft)];
+            if(fCover > 0.0f)
+                BlendPixel(iX, iY, fnPaint(iX + 0.5f, iY + 0.5f), fCover * fOpacity, eBlend);
         }
 }
 
-void Canvas::draw(const Canvas &picture, int left, int top, float opacity)
+void CCanvas::Draw(const CCanvas& Picture, int iLeft, int iTop, float fOpacity)
 {
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x) {
-            int tx = left + x, ty = top + y;
-            if (tx < 0 || ty < 0 || tx >= w_ || ty >= h_)
+    for(int iY = 0; iY < Picture.Height(); ++iY)
+        for(int iX = 0; iX < Picture.Width(); ++iX)
+        {
+            int iToX = iLeft + iX, iToY = iTop + iY;
+            if(iToX < 0 || iToY < 0 || iToX >= m_iWidth || iToY >= m_iHeight)
                 continue;
-            const Rgba &s = picture.pixel(x, y);
-            float keep = 1.0f - s.a * opacity;
-            Rgba &d = pixel(tx, ty);
-            d = {s.r * opacity + d.r * keep, s.g * opacity + d.g * keep, s.b * opacity + d.b * keep,
-                 s.a * opacity + d.a * keep};
+            const CRgba& Source = Picture.Pixel(iX, iY);
+            float fKeep = 1.0f - Source.m_fA * fOpacity;
+            CRgba& Dest = Pixel(iToX, iToY);
+            Dest = {Source.m_fR * fOpacity + Dest.m_fR * fKeep, Source.m_fG * fOpacity + Dest.m_fG * fKeep,
+                    Source.m_fB * fOpacity + Dest.m_fB * fKeep, Source.m_fA * fOpacity + Dest.m_fA * fKeep};
         }
 }
 
-std::vector<std::uint32_t> Canvas::toArgb() const
+std::vector<std::uint32_t> CCanvas::ToArgb() const
 {
-    std::vector<std::uint32_t> out(px_.size());
-    for (std::size_t i = 0; i < px_.size(); ++i) {
-        const Rgba &p = px_[i];
-        std::uint32_t a = toByte(p.a);
-        if (a == 0) {
-            out[i] = 0;
+    std::vector<std::uint32_t> vOut(m_vPixels.size());
+    for(std::size_t i = 0; i < m_vPixels.size(); ++i)
+    {
+        const CRgba& Colour = m_vPixels[i];
+        std::uint32_t uiA = ToByte(Colour.m_fA);
+        if(uiA == 0)
+        {
+            vOut[i] = 0;
             continue;
         }
-        float inv = 1.0f / p.a;
-        out[i] = (a << 24) | (toByte(p.r * inv) << 16) | (toByte(p.g * inv) << 8) | toByte(p.b * inv);
+        float fInv = 1.0f / Colour.m_fA;
+        vOut[i] = (uiA << 24) | (ToByte(Colour.m_fR * fInv) << 16) | (ToByte(Colour.m_fG * fInv) << 8) |
+                  ToByte(Colour.m_fB * fInv);
     }
-    return out;
+    return vOut;
 }
 
-Canvas resized(const Canvas &src, int width, int height)
+CCanvas Resized(const CCanvas& Source, int iWidth, int iHeight)
 {
-    Canvas out(width, height);
-    float sx = static_cast<float>(src.width()) / width, sy = static_cast<float>(src.height()) / height;
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            int ax = static_cast<int>(x * sx), ay = static_cast<int>(y * sy);
-            int bx = std::max(ax + 1, static_cast<int>((x + 1) * sx));
-            int by = std::max(ay + 1, static_cast<int>((y + 1) * sy));
-            Rgba sum;
-            for (int v = ay; v < by; ++v)
-                for (int u = ax; u < bx; ++u) {
-                    const Rgba &p = src.pixel(u, v);
-                    sum = {sum.r + p.r, sum.g + p.g, sum.b + p.b, sum.a + p.a};
+    CCanvas Out(iWidth, iHeight);
+    float fSx = static_cast<float>(Source.Width()) / iWidth, fSy = static_cast<float>(Source.Height()) / iHeight;
+    for(int iY = 0; iY < iHeight; ++iY)
+        for(int iX = 0; iX < iWidth; ++iX)
+        {
+            int iAx = static_cast<int>(iX * fSx), iAy = static_cast<int>(iY * fSy);
+            int iBx = std::max(iAx + 1, static_cast<int>((iX + 1) * fSx));
+            int iBy = std::max(iAy + 1, static_cast<int>((iY + 1) * fSy));
+            CRgba Sum;
+            for(int iV = iAy; iV < iBy; ++iV)
+                for(int iU = iAx; iU < iBx; ++iU)
+                {
+                    const CRgba& Colour = Source.Pixel(iU, iV);
+                    Sum = {Sum.m_fR + Colour.m_fR, Sum.m_fG + Colour.m_fG, Sum.m_fB + Colour.m_fB,
+                           Sum.m_fA + Colour.m_fA};
                 }
-            float n = static_cast<float>((bx - ax) * (by - ay));
-            out.pixel(x, y) = {sum.r / n, sum.g / n, sum.b / n, sum.a / n};
+            float fN = static_cast<float>((iBx - iAx) * (iBy - iAy));
+            Out.Pixel(iX, iY) = {Sum.m_fR / fN, Sum.m_fG / fN, Sum.m_fB / fN, Sum.m_fA / fN};
         }
-    return out;
+    return Out;
 }
-
 } // namespace art

@@ -6,62 +6,68 @@
 #include <functional>
 #include <vector>
 
-namespace art {
-
+namespace art
+{
 // A colour with straight (not premultiplied) alpha, components 0..1.
-struct Rgba {
-    float r = 0, g = 0, b = 0, a = 0;
+struct CRgba
+{
+    float m_fR = 0, m_fG = 0, m_fB = 0, m_fA = 0;
 };
 
 // 0xRRGGBB with an alpha of 0..1.
-Rgba hex(std::uint32_t rgb, float alpha = 1.0f);
-Rgba mix(Rgba from, Rgba to, float t);
-Rgba withAlpha(Rgba colour, float alpha);
-Rgba scaled(Rgba colour, float factor); // multiplies r, g, b (clamped), alpha unchanged
+CRgba Hex(std::uint32_t uiRgb, float fAlpha = 1.0f);
+CRgba Mix(CRgba From, CRgba To, float fT);
+CRgba WithAlpha(CRgba Colour, float fAlpha);
+CRgba Scaled(CRgba Colour, float fFactor); // multiplies red, green and blue (clamped), alpha unchanged
 
 // Where a colour comes from at a pixel centre: a solid, a gradient, a shaded ball...
-using Paint = std::function<Rgba(float x, float y)>;
-Paint solid(Rgba colour);
+using CPaint = std::function<CRgba(float fX, float fY)>;
+CPaint Solid(CRgba Colour);
 
-enum class Blend { Over, Add };
-
-// Coverage 0..1 over a rectangle of the picture that starts at (left, top).
-struct Mask {
-    int left = 0, top = 0, width = 0, height = 0;
-    std::vector<float> cover;
-
-    Mask() = default;
-    Mask(int l, int t, int w, int h);
-    float at(int x, int y) const; // picture coordinates; 0 outside
-    float &cell(int x, int y) { return cover[static_cast<std::size_t>(y - top) * width + (x - left)]; }
+enum class EBlend
+{
+    Over,
+    Add
 };
 
-class Canvas {
-public:
-    Canvas(int width, int height);
+// Coverage 0..1 over a rectangle of the picture that starts at (m_iLeft, m_iTop).
+struct CMask
+{
+    int m_iLeft = 0, m_iTop = 0, m_iWidth = 0, m_iHeight = 0;
+    std::vector<float> m_vCover;
 
-    int width() const { return w_; }
-    int height() const { return h_; }
+    CMask() = default;
+    CMask(int iLeft, int iTop, int iWidth, int iHeight);
+    float At(int iX, int iY) const; // picture coordinates; 0 outside
+    float& Cell(int iX, int iY) { return m_vCover[static_cast<std::size_t>(iY - m_iTop) * m_iWidth + (iX - m_iLeft)]; }
+};
+
+class CCanvas
+{
+public:
+    CCanvas(int iWidth, int iHeight);
+
+    int Width() const { return m_iWidth; }
+    int Height() const { return m_iHeight; }
 
     // Premultiplied pixel access.
-    const Rgba &pixel(int x, int y) const { return px_[static_cast<std::size_t>(y) * w_ + x]; }
-    Rgba &pixel(int x, int y) { return px_[static_cast<std::size_t>(y) * w_ + x]; }
+    const CRgba& Pixel(int iX, int iY) const { return m_vPixels[static_cast<std::size_t>(iY) * m_iWidth + iX]; }
+    CRgba& Pixel(int iX, int iY) { return m_vPixels[static_cast<std::size_t>(iY) * m_iWidth + iX]; }
 
-    void fill(const Paint &paint);
-    void paint(const Mask &mask, const Paint &paint, Blend blend = Blend::Over, float opacity = 1.0f);
-    void draw(const Canvas &picture, int left, int top, float opacity = 1.0f); // over, no scaling
+    void Fill(const CPaint& fnPaint);
+    void Paint(const CMask& Mask, const CPaint& fnPaint, EBlend eBlend = EBlend::Over, float fOpacity = 1.0f);
+    void Draw(const CCanvas& Picture, int iLeft, int iTop, float fOpacity = 1.0f); // over, no scaling
 
     // Straight-alpha 8-bit ARGB, one word a pixel, rows top to bottom.
-    std::vector<std::uint32_t> toArgb() const;
+    std::vector<std::uint32_t> ToArgb() const;
 
 private:
-    void blendPixel(int x, int y, Rgba straight, float coverage, Blend blend);
+    void BlendPixel(int iX, int iY, CRgba Straight, float fCoverage, EBlend eBlend);
 
-    int w_, h_;
-    std::vector<Rgba> px_;
+    int m_iWidth, m_iHeight;
+    std::vector<CRgba> m_vPixels;
 };
 
 // A box-filtered copy at another size; used for thumbnails.
-Canvas resized(const Canvas &source, int width, int height);
-
+CCanvas Resized(const CCanvas& Source, int iWidth, int iHeight);
 } // namespace art

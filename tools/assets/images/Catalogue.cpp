@@ -1,16 +1,16 @@
 #include "Catalogue.h"
 
-namespace art {
-
-Pictures catalogue()
+namespace art
 {
-    Pictures all;
-    for (auto group : {mainScreens, networkScreens, settingsScreens, buttonPictures, smallMenuPictures, resultPictures, logoPictures, hudPictures,
-                       facePictures, flarePictures, levelBackgrounds}) {
-        Pictures part = group();
-        all.insert(all.end(), part.begin(), part.end());
+CPictures Catalogue()
+{
+    CPictures vAll;
+    for(auto pfnGroup : {MainScreens, NetworkScreens, SettingsScreens, ButtonPictures, SmallMenuPictures,
+                         ResultPictures, LogoPictures, HudPictures, FacePictures, FlarePictures, LevelBackgrounds})
+    {
+        CPictures vPart = pfnGroup();
+        vAll.insert(vAll.end(), vPart.begin(), vPart.end());
     }
-    return all;
+    return vAll;
 }
-
 } // namespace art

@@ -7,33 +7,39 @@
 #include <string>
 #include <vector>
 
-namespace art {
-
-struct Picture {
-    std::string path; // below the data folder, with '/' between folders: "menus/images/cursor.png"
-    std::function<Canvas()> draw;
+namespace art
+{
+struct CPicture
+{
+    std::string m_Path; // below the data folder, with '/' between folders: "menus/images/cursor.png"
+    std::function<CCanvas()> m_fnDraw;
 };
 
-using Pictures = std::vector<Picture>;
+using CPictures = std::vector<CPicture>;
 
 // The game's two picture folders.
-inline Picture inMenus(const std::string &name, std::function<Canvas()> draw) { return {"menus/images/" + name, std::move(draw)}; }
-inline Picture inHud(const std::string &name, std::function<Canvas()> draw) { return {"hud/images/" + name, std::move(draw)}; }
+inline CPicture InMenus(const std::string& Name, std::function<CCanvas()> fnDraw)
+{
+    return {"menus/images/" + Name, std::move(fnDraw)};
+}
+inline CPicture InHud(const std::string& Name, std::function<CCanvas()> fnDraw)
+{
+    return {"hud/images/" + Name, std::move(fnDraw)};
+}
 
 // The groups, each drawn by its own file.
-Pictures buttonPictures();     // every two-state button of the menus
-Pictures smallMenuPictures();  // cursor, list arrows, highlight, scroll bar, slider knob, chat box
-Pictures mainScreens();        // main menu, single-player menu, spline editor
-Pictures networkScreens();     // lobby and connect screen
-Pictures settingsScreens();    // options and credits
-Pictures resultPictures();     // won and lost
-Pictures logoPictures();       // the start-up picture
-Pictures hudPictures();        // the play overlay's panels and ball icons
-Pictures facePictures();       // the four danger faces
-Pictures flarePictures();      // the particle flare
-Pictures levelBackgrounds();   // pictures behind the levels
+CPictures ButtonPictures();    // every two-state button of the menus
+CPictures SmallMenuPictures(); // cursor, list arrows, highlight, scroll bar, slider knob, chat box
+CPictures MainScreens();       // main menu, single-player menu, spline editor
+CPictures NetworkScreens();    // lobby and connect screen
+CPictures SettingsScreens();   // options and credits
+CPictures ResultPictures();    // won and lost
+CPictures LogoPictures();      // the start-up picture
+CPictures HudPictures();       // the play overlay's panels and ball icons
+CPictures FacePictures();      // the four danger faces
+CPictures FlarePictures();     // the particle flare
+CPictures LevelBackgrounds();  // pictures behind the levels
 
 // All of them, in a fixed order.
-Pictures catalogue();
-
+CPictures Catalogue();
 } // namespace art

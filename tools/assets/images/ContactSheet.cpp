@@ -10,63 +10,74 @@
 #include <algorithm>
 #include <cmath>
 
-namespace art {
-
-namespace {
-
-constexpr int kColumns = 6;
-constexpr int kCellWidth = 210, kCellHeight = 196;
-constexpr int kBoxWidth = 190, kBoxHeight = 142; // an 800 by 600 screen fits exactly
-constexpr int kMaxEnlarge = 4;                   // small pictures are shown bigger, up to this factor
-constexpr int kPad = 30, kHeader = 70;
+namespace art
+{
+namespace
+{
+constexpr int COLUMNS = 6;
+constexpr int CELL_WIDTH = 210, CELL_HEIGHT = 196;
+constexpr int BOX_WIDTH = 190, BOX_HEIGHT = 142; // an 800 by 600 screen fits exactly
+constexpr int MAX_ENLARGE = 4;                   // small pictures are shown bigger, up to this factor
+constexpr int PAD = 30, HEADER = 70;
 
 // A checked ground shows which parts of a picture are transparent.
-void checks(Canvas &c, int left, int top, int width, int height)
+void Checks(CCanvas& Canvas, int iLeft, int iTop, int iWidth, int iHeight)
 {
-    Mask area(left, top, width, height);
-    std::fill(area.cover.begin(), area.cover.end(), 1.0f);
-    c.paint(area, [](float x, float y) {
-        bool dark = ((static_cast<int>(x) / 8) + (static_cast<int>(y) / 8)) % 2 == 0;
-        return dark ? hex(0x2a2d3a) : hex(0x3a3e4e);
-    });
+    CMask Area(iLeft, iTop, iWidth, iHeight);
+    std::fill(Area.m_vCover.begin(), Area.m_vCover.end(), 1.0f);
+    Canvas.Paint(Area,
+                 [](float fX, float fY)
+                 {
+                     bool bDark = ((static_cast<int>(fX) / 8) + (static_cast<int>(fY) / 8)) % 2 == 0;
+                     return bDark ? Hex(0x2a2d3a) : Hex(0x3a3e4e);
+                 });
 }
 
-std::string fileName(const std::string &path) { return path.substr(path.find_last_of('/') + 1); }
-std::string folder(const std::string &path) { return path.substr(0, path.find('/')); }
-
+std::string FileName(const std::string& Path)
+{
+    return Path.substr(Path.find_last_of('/') + 1);
+}
+std::string Folder(const std::string& Path)
+{
+    return Path.substr(0, Path.find('/'));
+}
 } // namespace
 
-void ContactSheet::add(const std::string &path, const Canvas &picture)
+void CContactSheet::Add(const std::string& Path, const CCanvas& Picture)
 {
-    float fit = std::min(static_cast<float>(kBoxWidth) / picture.width(), static_cast<float>(kBoxHeight) / picture.height());
-    fit = std::min(fit, static_cast<float>(kMaxEnlarge));
-    if (fit > 1.0f)
-        fit = std::floor(fit); // whole-number enlargement keeps pixels square and sharp
-    int w = std::max(1, static_cast<int>(picture.width() * fit)), h = std::max(1, static_cast<int>(picture.height() * fit));
-    entries_.push_back({path, picture.width(), picture.height(), resized(picture, w, h)});
+    float fFit =
+        std::min(static_cast<float>(BOX_WIDTH) / Picture.Width(), static_cast<float>(BOX_HEIGHT) / Picture.Height());
+    fFit = std::min(fFit, static_cast<float>(MAX_ENLARGE));
+    if(fFit > 1.0f)
+        fFit = std::floor(fFit); // whole-number enlargement keeps pixels square and sharp
+    int iW = std::max(1, static_cast<int>(Picture.Width() * fFit)),
+        iH = std::max(1, static_cast<int>(Picture.Height() * fFit));
+    m_vEntries.push_back({Path, Picture.Width(), Picture.Height(), Resized(Picture, iW, iH)});
 }
 
-Canvas ContactSheet::render() const
+CCanvas CContactSheet::Render() const
 {
-    int rows = (static_cast<int>(entries_.size()) + kColumns - 1) / kColumns;
-    Canvas sheet(kColumns * kCellWidth + 2 * kPad, kHeader + rows * kCellHeight + kPad);
-    sheet.fill(solid(hex(0x10142a)));
-    screenTitle(sheet, "Trelvane pictures", kPad, 12, 30);
-    TextStyle count = plain(Face::Regular, 14, theme::mist());
-    drawText(sheet, std::to_string(entries_.size()) + " files", sheet.width() - kPad, 26, count, Align::Right);
-    TextStyle name = plain(Face::Bold, 11, theme::cream());
-    TextStyle info = plain(Face::Regular, 10, theme::mist());
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
-        const Entry &e = entries_[i];
-        int left = kPad + static_cast<int>(i % kColumns) * kCellWidth + (kCellWidth - kBoxWidth) / 2;
-        int top = kHeader + static_cast<int>(i / kColumns) * kCellHeight;
-        checks(sheet, left, top, kBoxWidth, kBoxHeight);
-        sheet.draw(e.thumbnail, left + (kBoxWidth - e.thumbnail.width()) / 2, top + (kBoxHeight - e.thumbnail.height()) / 2);
-        drawText(sheet, fileName(e.path), left + kBoxWidth / 2.0f, top + kBoxHeight + 4, name, Align::Centre);
-        std::string detail = folder(e.path) + "  " + std::to_string(e.width) + " x " + std::to_string(e.height);
-        drawText(sheet, detail, left + kBoxWidth / 2.0f, top + kBoxHeight + 20, info, Align::Centre);
+    int iRows = (static_cast<int>(m_vEntries.size()) + COLUMNS - 1) / COLUMNS;
+    CCanvas Sheet(COLUMNS * CELL_WIDTH + 2 * PAD, HEADER + iRows * CELL_HEIGHT + PAD);
+    Sheet.Fill(Solid(Hex(0x10142a)));
+    ScreenTitle(Sheet, "Trelvane pictures", PAD, 12, 30);
+    CTextStyle Count = Plain(EFace::Regular, 14, theme::Mist());
+    DrawText(Sheet, std::to_string(m_vEntries.size()) + " files", Sheet.Width() - PAD, 26, Count, EAlign::Right);
+    CTextStyle Name = Plain(EFace::Bold, 11, theme::Cream());
+    CTextStyle Info = Plain(EFace::Regular, 10, theme::Mist());
+    for(std::size_t i = 0; i < m_vEntries.size(); ++i)
+    {
+        const CEntry& Entry = m_vEntries[i];
+        int iLeft = PAD + static_cast<int>(i % COLUMNS) * CELL_WIDTH + (CELL_WIDTH - BOX_WIDTH) / 2;
+        int iTop = HEADER + static_cast<int>(i / COLUMNS) * CELL_HEIGHT;
+        Checks(Sheet, iLeft, iTop, BOX_WIDTH, BOX_HEIGHT);
+        Sheet.Draw(Entry.m_Thumbnail, iLeft + (BOX_WIDTH - Entry.m_Thumbnail.Width()) / 2,
+                   iTop + (BOX_HEIGHT - Entry.m_Thumbnail.Height()) / 2);
+        DrawText(Sheet, FileName(Entry.m_Path), iLeft + BOX_WIDTH / 2.0f, iTop + BOX_HEIGHT + 4, Name, EAlign::Centre);
+        std::string Detail =
+            Folder(Entry.m_Path) + "  " + std::to_string(Entry.m_iWidth) + " x " + std::to_string(Entry.m_iHeight);
+        DrawText(Sheet, Detail, iLeft + BOX_WIDTH / 2.0f, iTop + BOX_HEIGHT + 20, Info, EAlign::Centre);
     }
-    return sheet;
+    return Sheet;
 }
-
 } // namespace art

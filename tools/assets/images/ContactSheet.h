@@ -7,21 +7,22 @@
 #include <string>
 #include <vector>
 
-namespace art {
-
-class ContactSheet {
+namespace art
+{
+class CContactSheet
+{
 public:
     // Keeps only a thumbnail, so the full pictures need not stay in memory.
-    void add(const std::string &path, const Canvas &picture);
-    Canvas render() const;
+    void Add(const std::string& Path, const CCanvas& Picture);
+    CCanvas Render() const;
 
 private:
-    struct Entry {
-        std::string path;
-        int width, height;
-        Canvas thumbnail;
+    struct CEntry
+    {
+        std::string m_Path;
+        int m_iWidth, m_iHeight;
+        CCanvas m_Thumbnail;
     };
-    std::vector<Entry> entries_;
+    std::vector<CEntry> m_vEntries;
 };
-
 } // namespace art

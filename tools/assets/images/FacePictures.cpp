@@ -9,101 +9,115 @@
 
 #include <string>
 
-namespace art {
-
-namespace {
-
-constexpr float kPi = 3.14159265f;
-constexpr float kC = 16.0f; // centre of the face
-const Rgba kInk = hex(0x1a0e08);
-
-void head(Canvas &c, Rgba light, Rgba dark)
+namespace art
 {
-    c.paint(shifted(blurred(rasterize(circle(kC, kC, 13.5f)), 2.0f), 1, 1), solid({0, 0, 0, 0.5f}));
-    c.paint(rasterize(circle(kC, kC, 14.0f)), radial(kC - 4, kC - 5, 19, {{0.0f, light}, {1.0f, dark}}));
-    c.paint(rasterize(outline(circle(kC, kC, 13.6f), 1.4f)), solid(kInk));
-    c.paint(rasterize(ellipse(kC - 4.5f, kC - 8.5f, 5.0f, 2.4f)), solid({1, 1, 1, 0.35f}));
+namespace
+{
+constexpr float PI = 3.14159265f;
+constexpr float CENTRE = 16.0f; // centre of the face
+const CRgba INK = Hex(0x1a0e08);
+
+void Head(CCanvas& Canvas, CRgba Light, CRgba Dark)
+{
+    Canvas.Paint(Shifted(Blurred(Rasterize(Circle(CENTRE, CENTRE, 13.5f)), 2.0f), 1, 1), Solid({0, 0, 0, 0.5f}));
+    Canvas.Paint(Rasterize(Circle(CENTRE, CENTRE, 14.0f)),
+                 Radial(CENTRE - 4, CENTRE - 5, 19, {{0.0f, Light}, {1.0f, Dark}}));
+    Canvas.Paint(Rasterize(Outline(Circle(CENTRE, CENTRE, 13.6f), 1.4f)), Solid(INK));
+    Canvas.Paint(Rasterize(Ellipse(CENTRE - 4.5f, CENTRE - 8.5f, 5.0f, 2.4f)), Solid({1, 1, 1, 0.35f}));
 }
 
-void dotEyes(Canvas &c, float y, float r)
+void DotEyes(CCanvas& Canvas, float fY, float fR)
 {
-    for (float x : {kC - 5.0f, kC + 5.0f})
-        c.paint(rasterize(ellipse(x, y, r * 0.85f, r * 1.15f)), solid(kInk));
+    for(float fX : {CENTRE - 5.0f, CENTRE + 5.0f})
+        Canvas.Paint(Rasterize(Ellipse(fX, fY, fR * 0.85f, fR * 1.15f)), Solid(INK));
 }
 
-void stroke(Canvas &c, std::vector<Point> pts, float width) { c.paint(rasterize(polyline(std::move(pts), width)), solid(kInk)); }
+void Stroke(CCanvas& Canvas, std::vector<CPoint> vPoints, float fWidth)
+{
+    Canvas.Paint(Rasterize(Polyline(std::move(vPoints), fWidth)), Solid(INK));
+}
 
 // Calm: closed, smiling eyes and a wide smile.
-Canvas calm()
+CCanvas Calm()
 {
-    Canvas c(32, 32);
-    head(c, hex(0x9af0b0), hex(0x2f9e58));
-    for (float x : {kC - 5.0f, kC + 5.0f})
-        c.paint(rasterize(arc(x, kC - 2.5f, 2.8f, kPi * 1.15f, kPi * 1.85f, 1.6f)), solid(kInk));
-    c.paint(rasterize(arc(kC, kC + 1.0f, 7.0f, kPi * 0.2f, kPi * 0.8f, 1.9f)), solid(kInk));
-    return c;
+    CCanvas Canvas(32, 32);
+    Head(Canvas, Hex(0x9af0b0), Hex(0x2f9e58));
+    for(float fX : {CENTRE - 5.0f, CENTRE + 5.0f})
+        Canvas.Paint(Rasterize(Arc(fX, CENTRE - 2.5f, 2.8f, PI * 1.15f, PI * 1.85f, 1.6f)), Solid(INK));
+    Canvas.Paint(Rasterize(Arc(CENTRE, CENTRE + 1.0f, 7.0f, PI * 0.2f, PI * 0.8f, 1.9f)), Solid(INK));
+    return Canvas;
 }
 
 // Watchful: open eyes and a straight mouth.
-Canvas watchful()
+CCanvas Watchful()
 {
-    Canvas c(32, 32);
-    head(c, hex(0xfff09a), hex(0xc9a21c));
-    dotEyes(c, kC - 3.0f, 2.0f);
-    stroke(c, {{kC - 5.5f, kC + 6.0f}, {kC + 5.5f, kC + 6.0f}}, 1.8f);
-    return c;
+    CCanvas Canvas(32, 32);
+    Head(Canvas, Hex(0xfff09a), Hex(0xc9a21c));
+    DotEyes(Canvas, CENTRE - 3.0f, 2.0f);
+    Stroke(Canvas, {{CENTRE - 5.5f, CENTRE + 6.0f}, {CENTRE + 5.5f, CENTRE + 6.0f}}, 1.8f);
+    return Canvas;
 }
 
 // Worried: raised brows, a wavering frown.
-Canvas worried()
+CCanvas Worried()
 {
-    Canvas c(32, 32);
-    head(c, hex(0xffc27a), hex(0xd2641c));
-    stroke(c, {{kC - 8.0f, kC - 6.0f}, {kC - 3.0f, kC - 8.5f}}, 1.5f);
-    stroke(c, {{kC + 8.0f, kC - 6.0f}, {kC + 3.0f, kC - 8.5f}}, 1.5f);
-    dotEyes(c, kC - 2.0f, 2.2f);
-    stroke(c, {{kC - 6.0f, kC + 8.0f}, {kC - 3.0f, kC + 5.5f}, {kC, kC + 7.0f}, {kC + 3.0f, kC + 5.5f}, {kC + 6.0f, kC + 8.0f}},
+    CCanvas Canvas(32, 32);
+    Head(Canvas, Hex(0xffc27a), Hex(0xd2641c));
+    Stroke(Canvas, {{CENTRE - 8.0f, CENTRE - 6.0f}, {CENTRE - 3.0f, CENTRE - 8.5f}}, 1.5f);
+    Stroke(Canvas, {{CENTRE + 8.0f, CENTRE - 6.0f}, {CENTRE + 3.0f, CENTRE - 8.5f}}, 1.5f);
+    DotEyes(Canvas, CENTRE - 2.0f, 2.2f);
+    Stroke(Canvas,
+           {{CENTRE - 6.0f, CENTRE + 8.0f},
+            {CENTRE - 3.0f, CENTRE + 5.5f},
+            {CENTRE, CENTRE + 7.0f},
+            {CENTRE + 3.0f, CENTRE + 5.5f},
+            {CENTRE + 6.0f, CENTRE + 8.0f}},
            1.6f);
-    return c;
+    return Canvas;
 }
 
 // Panic: white staring eyes, a wide-open mouth, a bead of sweat.
-Canvas panic()
+CCanvas Panic()
 {
-    Canvas c(32, 32);
-    head(c, hex(0xff8a7a), hex(0xb01818));
-    for (float x : {kC - 5.5f, kC + 5.5f}) {
-        c.paint(rasterize(circle(x, kC - 3.0f, 3.8f)), solid({1, 1, 1, 1}));
-        c.paint(rasterize(outline(circle(x, kC - 3.0f, 3.8f), 1.0f)), solid(kInk));
-        c.paint(rasterize(circle(x, kC - 3.0f, 1.3f)), solid(kInk));
+    CCanvas Canvas(32, 32);
+    Head(Canvas, Hex(0xff8a7a), Hex(0xb01818));
+    for(float fX : {CENTRE - 5.5f, CENTRE + 5.5f})
+    {
+        Canvas.Paint(Rasterize(Circle(fX, CENTRE - 3.0f, 3.8f)), Solid({1, 1, 1, 1}));
+        Canvas.Paint(Rasterize(Outline(Circle(fX, CENTRE - 3.0f, 3.8f), 1.0f)), Solid(INK));
+        Canvas.Paint(Rasterize(Circle(fX, CENTRE - 3.0f, 1.3f)), Solid(INK));
     }
-    c.paint(rasterize(ellipse(kC, kC + 7.0f, 3.6f, 4.4f)), solid(hex(0x3a0808)));
-    c.paint(rasterize(outline(ellipse(kC, kC + 7.0f, 3.6f, 4.4f), 1.2f)), solid(kInk));
-    Shape drop = unite(circle(kC + 11.5f, kC - 4.0f, 2.4f),
-                       polygon({{kC + 9.3f, kC - 4.6f}, {kC + 11.5f, kC - 10.0f}, {kC + 13.7f, kC - 4.6f}}));
-    c.paint(rasterize(drop), solid(hex(0x8fd8ff)));
-    c.paint(rasterize(outline(drop, 0.9f)), solid(hex(0x1b4a7a)));
-    return c;
+    Canvas.Paint(Rasterize(Ellipse(CENTRE, CENTRE + 7.0f, 3.6f, 4.4f)), Solid(Hex(0x3a0808)));
+    Canvas.Paint(Rasterize(Outline(Ellipse(CENTRE, CENTRE + 7.0f, 3.6f, 4.4f), 1.2f)), Solid(INK));
+    CShape Drop = Unite(
+        Circle(CENTRE + 11.5f, CENTRE - 4.0f, 2.4f),
+        Polygon({{CENTRE + 9.3f, CENTRE - 4.6f}, {CENTRE + 11.5f, CENTRE - 10.0f}, {CENTRE + 13.7f, CENTRE - 4.6f}}));
+    Canvas.Paint(Rasterize(Drop), Solid(Hex(0x8fd8ff)));
+    Canvas.Paint(Rasterize(Outline(Drop, 0.9f)), Solid(Hex(0x1b4a7a)));
+    return Canvas;
 }
-
 } // namespace
 
-Canvas face(int mood)
+CCanvas Face(int iMood)
 {
-    switch (mood) {
-    case 0: return calm();
-    case 1: return watchful();
-    case 2: return worried();
-    default: return panic();
+    switch(iMood)
+    {
+    case 0:
+        return Calm();
+    case 1:
+        return Watchful();
+    case 2:
+        return Worried();
+    default:
+        return Panic();
     }
 }
 
-Pictures facePictures()
+CPictures FacePictures()
 {
-    Pictures out;
-    for (int mood = 0; mood < kFaceCount; ++mood)
-        out.push_back(inHud("face" + std::to_string(mood + 1) + ".png", [mood] { return face(mood); }));
-    return out;
+    CPictures vOut;
+    for(int iMood = 0; iMood < FACE_COUNT; ++iMood)
+        vOut.push_back(InHud("face" + std::to_string(iMood + 1) + ".png", [iMood] { return Face(iMood); }));
+    return vOut;
 }
-
 } // namespace art

@@ -3,11 +3,10 @@
 
 #include "Canvas.h"
 
-namespace art {
-
-constexpr int kFaceCount = 4;
+namespace art
+{
+constexpr int FACE_COUNT = 4;
 
 // 0 calm, 1 watchful, 2 worried, 3 panic; 32 by 32 pixels.
-Canvas face(int mood);
-
+CCanvas Face(int iMood);
 } // namespace art

@@ -2,150 +2,160 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <vector>
 
-namespace art {
-
-namespace {
-
-// One box pass along a line of n values with stride, half-width k, zero outside.
-void boxLine(float *data, int n, int stride, int k, std::vector<float> &scratch)
+namespace art
 {
-    scratch.assign(static_cast<std::size_t>(n), 0.0f);
-    float sum = 0.0f, norm = 1.0f / (2 * k + 1);
-    for (int i = -k; i <= k; ++i)
-        if (i >= 0 && i < n)
-            sum += data[i * stride];
-    for (int i = 0; i < n; ++i) {
-        scratch[static_cast<std::size_t>(i)] = sum * norm;
-        int out = i - k, in = i + k + 1;
-        if (out >= 0)
-            sum -= data[out * stride];
-        if (in < n)
-            sum += data[in * stride];
+namespace
+{
+// One box pass along a line of iCount values nStride apart, half-width k, zero outside.
+void BoxLine(float* pData, int iCount, std::ptrdiff_t nStride, int k, std::vector<float>& vScratch)
+{
+    vScratch.assign(static_cast<std::size_t>(iCount), 0.0f);
+    float fSum = 0.0f, fNorm = 1.0f / (2 * k + 1);
+    for(int i = -k; i <= k; ++i)
+        if(i >= 0 && i < iCount)
+            fSum += pData[i * nStride];
+    for(int i = 0; i < iCount; ++i)
+    {
+        vScratch[static_cast<std::size_t>(i)] = fSum * fNorm;
+        int iOut = i - k, iIn = i + k + 1;
+        if(iOut >= 0)
+            fSum -= pData[iOut * nStride];
+        if(iIn < iCount)
+            fSum += pData[iIn * nStride];
     }
-    for (int i = 0; i < n; ++i)
-        data[i * stride] = scratch[static_cast<std::size_t>(i)];
+    for(int i = 0; i < iCount; ++i)
+        pData[i * nStride] = vScratch[static_cast<std::size_t>(i)];
 }
 
-Mask padded(const Mask &m, int pad)
+CMask Padded(const CMask& Mask, int iPad)
 {
-    Mask out(m.left - pad, m.top - pad, m.width + 2 * pad, m.height + 2 * pad);
-    for (int y = 0; y < m.height; ++y)
-        for (int x = 0; x < m.width; ++x)
-            out.cell(m.left + x, m.top + y) = m.cover[static_cast<std::size_t>(y) * m.width + x];
-    return out;
+    CMask Out(Mask.m_iLeft - iPad, Mask.m_iTop - iPad, Mask.m_iWidth + 2 * iPad, Mask.m_iHeight + 2 * iPad);
+    for(int iY = 0; iY < Mask.m_iHeight; ++iY)
+        for(int iX = 0; iX < Mask.m_iWidth; ++iX)
+            Out.Cell(Mask.m_iLeft + iX, Mask.m_iTop + iY) =
+                Mask.m_vCover[static_cast<std::size_t>(iY) * Mask.m_iWidth + iX];
+    return Out;
 }
 
-float fade(float t) { return t * t * (3.0f - 2.0f * t); }
-
+float Fade(float fT)
+{
+    return fT * fT * (3.0f - 2.0f * fT);
+}
 } // namespace
 
-Mask blurred(const Mask &mask, float radius)
+CMask Blurred(const CMask& Mask, float fRadius)
 {
-    int k = std::max(1, static_cast<int>(std::lround(radius / 2.0f)));
-    Mask out = padded(mask, 3 * k + 1);
-    std::vector<float> scratch;
-    for (int pass = 0; pass < 3; ++pass) {
-        for (int y = 0; y < out.height; ++y)
-            boxLine(&out.cover[static_cast<std::size_t>(y) * out.width], out.width, 1, k, scratch);
-        for (int x = 0; x < out.width; ++x)
-            boxLine(&out.cover[static_cast<std::size_t>(x)], out.height, out.width, k, scratch);
+    int k = std::max(1, static_cast<int>(std::lround(fRadius / 2.0f)));
+    CMask Out = Padded(Mask, 3 * k + 1);
+    std::vector<float> vScratch;
+    for(int iPass = 0; iPass < 3; ++iPass)
+    {
+        for(int iY = 0; iY < Out.m_iHeight; ++iY)
+            BoxLine(&Out.m_vCover[static_cast<std::size_t>(iY) * Out.m_iWidth], Out.m_iWidth, 1, k, vScratch);
+        for(int iX = 0; iX < Out.m_iWidth; ++iX)
+            BoxLine(&Out.m_vCover[static_cast<std::size_t>(iX)], Out.m_iHeight, Out.m_iWidth, k, vScratch);
     }
-    return out;
+    return Out;
 }
 
-Mask dilated(const Mask &mask, float radius)
+CMask Dilated(const CMask& Mask, float fRadius)
 {
-    int r = static_cast<int>(std::ceil(radius));
-    Mask src = padded(mask, r + 1), out = src;
-    for (int y = src.top; y < src.top + src.height; ++y)
-        for (int x = src.left; x < src.left + src.width; ++x) {
-            float best = 0.0f;
-            for (int dy = -r; dy <= r; ++dy)
-                for (int dx = -r; dx <= r; ++dx) {
-                    float reach = std::min(1.0f, std::max(0.0f, radius + 0.5f - std::sqrt(float(dx * dx + dy * dy))));
-                    best = std::max(best, src.at(x + dx, y + dy) * reach);
+    int iR = static_cast<int>(std::ceil(fRadius));
+    CMask Source = Padded(Mask, iR + 1), Out = Source;
+    for(int iY = Source.m_iTop; iY < Source.m_iTop + Source.m_iHeight; ++iY)
+        for(int iX = Source.m_iLeft; iX < Source.m_iLeft + Source.m_iWidth; ++iX)
+        {
+            float fBest = 0.0f;
+            for(int iDy = -iR; iDy <= iR; ++iDy)
+                for(int iDx = -iR; iDx <= iR; ++iDx)
+                {
+                    float fReach =
+                        std::min(1.0f, std::max(0.0f, fRadius + 0.5f - std::sqrt(float(iDx * iDx + iDy * iDy))));
+                    fBest = std::max(fBest, Source.At(iX + iDx, iY + iDy) * fReach);
                 }
-            out.cell(x, y) = best;
+            Out.Cell(iX, iY) = fBest;
         }
-    return out;
+    return Out;
 }
 
-Mask shifted(const Mask &mask, int dx, int dy)
+CMask Shifted(const CMask& Mask, int iDx, int iDy)
 {
-    Mask out = mask;
-    out.left += dx;
-    out.top += dy;
-    return out;
+    CMask Out = Mask;
+    Out.m_iLeft += iDx;
+    Out.m_iTop += iDy;
+    return Out;
 }
 
-Mask scaledCover(const Mask &mask, float factor)
+CMask ScaledCover(const CMask& Mask, float fFactor)
 {
-    Mask out = mask;
-    for (float &c : out.cover)
-        c = std::min(1.0f, c * factor);
-    return out;
+    CMask Out = Mask;
+    for(float& fCover : Out.m_vCover)
+        fCover = std::min(1.0f, fCover * fFactor);
+    return Out;
 }
 
-Mask multiplied(const Mask &a, const Mask &b)
+CMask Multiplied(const CMask& a, const CMask& b)
 {
-    Mask out = a;
-    for (int y = a.top; y < a.top + a.height; ++y)
-        for (int x = a.left; x < a.left + a.width; ++x)
-            out.cell(x, y) *= b.at(x, y);
-    return out;
+    CMask Out = a;
+    for(int iY = a.m_iTop; iY < a.m_iTop + a.m_iHeight; ++iY)
+        for(int iX = a.m_iLeft; iX < a.m_iLeft + a.m_iWidth; ++iX)
+            Out.Cell(iX, iY) *= b.At(iX, iY);
+    return Out;
 }
 
-Mask united(const Mask &a, const Mask &b)
+CMask United(const CMask& a, const CMask& b)
 {
-    int l = std::min(a.left, b.left), t = std::min(a.top, b.top);
-    int r = std::max(a.left + a.width, b.left + b.width), bt = std::max(a.top + a.height, b.top + b.height);
-    Mask out(l, t, r - l, bt - t);
-    for (int y = t; y < bt; ++y)
-        for (int x = l; x < r; ++x)
-            out.cell(x, y) = std::max(a.at(x, y), b.at(x, y));
-    return out;
+    int iLeft = std::min(a.m_iLeft, b.m_iLeft), iTop = std::min(a.m_iTop, b.m_iTop);
+    int iRight = std::max(a.m_iLeft + a.m_iWidth, b.m_iLeft + b.m_iWidth),
+        iBottom = std::max(a.m_iTop + a.m_iHeight, b.m_iTop + b.m_iHeight);
+    CMask Out(iLeft, iTop, iRight - iLeft, iBottom - iTop);
+    for(int iY = iTop; iY < iBottom; ++iY)
+        for(int iX = iLeft; iX < iRight; ++iX)
+            Out.Cell(iX, iY) = std::max(a.At(iX, iY), b.At(iX, iY));
+    return Out;
 }
 
-Mask fullMask(int width, int height)
+CMask FullMask(int iWidth, int iHeight)
 {
-    Mask m(0, 0, width, height);
-    std::fill(m.cover.begin(), m.cover.end(), 1.0f);
-    return m;
+    CMask Mask(0, 0, iWidth, iHeight);
+    std::fill(Mask.m_vCover.begin(), Mask.m_vCover.end(), 1.0f);
+    return Mask;
 }
 
-Noise::Noise(std::uint32_t seed) : seed_(seed) {}
+CNoise::CNoise(std::uint32_t uiSeed) : m_uiSeed(uiSeed) {}
 
-float Noise::lattice(int x, int y) const
+float CNoise::Lattice(int iX, int iY) const
 {
-    std::uint32_t h = static_cast<std::uint32_t>(x) * 374761393u + static_cast<std::uint32_t>(y) * 668265263u +
-                      seed_ * 2246822519u;
-    h = (h ^ (h >> 13)) * 1274126177u;
-    h ^= h >> 16;
-    return static_cast<float>(h & 0xffffff) / 16777215.0f;
+    std::uint32_t uiHash = static_cast<std::uint32_t>(iX) * 374761393u + static_cast<std::uint32_t>(iY) * 668265263u +
+                           m_uiSeed * 2246822519u;
+    uiHash = (uiHash ^ (uiHash >> 13)) * 1274126177u;
+    uiHash ^= uiHash >> 16;
+    return static_cast<float>(uiHash & 0xffffff) / 16777215.0f;
 }
 
-float Noise::at(float x, float y) const
+float CNoise::At(float fX, float fY) const
 {
-    float fx = std::floor(x), fy = std::floor(y);
-    int ix = static_cast<int>(fx), iy = static_cast<int>(fy);
-    float u = fade(x - fx), v = fade(y - fy);
-    float top = lattice(ix, iy) + (lattice(ix + 1, iy) - lattice(ix, iy)) * u;
-    float bottom = lattice(ix, iy + 1) + (lattice(ix + 1, iy + 1) - lattice(ix, iy + 1)) * u;
-    return top + (bottom - top) * v;
+    float fFloorX = std::floor(fX), fFloorY = std::floor(fY);
+    int iX = static_cast<int>(fFloorX), iY = static_cast<int>(fFloorY);
+    float fU = Fade(fX - fFloorX), fV = Fade(fY - fFloorY);
+    float fTop = Lattice(iX, iY) + (Lattice(iX + 1, iY) - Lattice(iX, iY)) * fU;
+    float fBottom = Lattice(iX, iY + 1) + (Lattice(iX + 1, iY + 1) - Lattice(iX, iY + 1)) * fU;
+    return fTop + (fBottom - fTop) * fV;
 }
 
-float Noise::fractal(float x, float y, float scale, int octaves) const
+float CNoise::Fractal(float fX, float fY, float fScale, int iOctaves) const
 {
-    float sum = 0.0f, weight = 0.5f, total = 0.0f, f = 1.0f / scale;
-    for (int i = 0; i < octaves; ++i) {
-        sum += at(x * f + i * 17.31f, y * f - i * 9.17f) * weight;
-        total += weight;
-        weight *= 0.5f;
-        f *= 2.0f;
+    float fSum = 0.0f, fWeight = 0.5f, fTotal = 0.0f, fFrequency = 1.0f / fScale;
+    for(int i = 0; i < iOctaves; ++i)
+    {
+        fSum += At(fX * fFrequency + i * 17.31f, fY * fFrequency - i * 9.17f) * fWeight;
+        fTotal += fWeight;
+        fWeight *= 0.5f;
+        fFrequency *= 2.0f;
     }
-    return sum / total;
+    return fSum / fTotal;
 }
-
 } // namespace art

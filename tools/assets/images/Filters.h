@@ -6,26 +6,26 @@
 
 #include <cstdint>
 
-namespace art {
+namespace art
+{
+CMask Blurred(const CMask& Mask, float fRadius); // Gaussian-like (three box passes), grows by the radius
+CMask Dilated(const CMask& Mask, float fRadius); // every edge pushed out by the radius
+CMask Shifted(const CMask& Mask, int iDx, int iDy);
+CMask ScaledCover(const CMask& Mask, float fFactor); // coverage times fFactor, clamped
+CMask Multiplied(const CMask& a, const CMask& b);    // coverage of a kept where b covers
+CMask United(const CMask& a, const CMask& b);        // the larger coverage of the two
+CMask FullMask(int iWidth, int iHeight);             // a whole picture, fully covered
 
-Mask blurred(const Mask &mask, float radius);    // Gaussian-like (three box passes), grows by the radius
-Mask dilated(const Mask &mask, float radius);    // every edge pushed out by the radius
-Mask shifted(const Mask &mask, int dx, int dy);
-Mask scaledCover(const Mask &mask, float factor); // coverage times factor, clamped
-Mask multiplied(const Mask &a, const Mask &b);    // coverage of a kept where b covers
-Mask united(const Mask &a, const Mask &b);        // the larger coverage of the two
-Mask fullMask(int width, int height);             // a whole picture, fully covered
-
-// Smooth value noise, about 0..1, with features near `scale` pixels; octaves add finer detail.
-class Noise {
+// Smooth value noise, about 0..1, with features near fScale pixels; iOctaves add finer detail.
+class CNoise
+{
 public:
-    explicit Noise(std::uint32_t seed);
-    float at(float x, float y) const;
-    float fractal(float x, float y, float scale, int octaves) const;
+    explicit CNoise(std::uint32_t uiSeed);
+    float At(float fX, float fY) const;
+    float Fractal(float fX, float fY, float fScale, int iOctaves) const;
 
 private:
-    float lattice(int x, int y) const;
-    std::uint32_t seed_;
+    float Lattice(int iX, int iY) const;
+    std::uint32_t m_uiSeed;
 };
-
 } // namespace art

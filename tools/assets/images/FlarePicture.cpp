@@ -5,29 +5,32 @@
 #include <algorithm>
 #include <cmath>
 
-namespace art {
-
-namespace {
-
-constexpr int kSize = 64;
-
-Canvas flare()
+namespace art
 {
-    Canvas c(kSize, kSize);
-    float centre = kSize / 2.0f;
-    c.fill([centre](float x, float y) {
-        float d = std::sqrt((x - centre) * (x - centre) + (y - centre) * (y - centre)) / centre;
-        float core = std::exp(-d * d * 18.0f);
-        float halo = std::exp(-d * d * 4.0f) * 0.55f;
-        float edge = std::max(0.0f, 1.0f - d); // exactly nothing at the rim and beyond
-        float v = std::min(1.0f, (core + halo) * edge * edge);
-        return Rgba{v, v, v, v};
-    });
-    return c;
-}
+namespace
+{
+constexpr int SIZE = 64;
 
+CCanvas Flare()
+{
+    CCanvas Canvas(SIZE, SIZE);
+    float fCentre = SIZE / 2.0f;
+    Canvas.Fill(
+        [fCentre](float fX, float fY)
+        {
+            float fD = std::sqrt((fX - fCentre) * (fX - fCentre) + (fY - fCentre) * (fY - fCentre)) / fCentre;
+            float fCore = std::exp(-fD * fD * 18.0f);
+            float fHalo = std::exp(-fD * fD * 4.0f) * 0.55f;
+            float fEdge = std::max(0.0f, 1.0f - fD); // exactly nothing at the rim and beyond
+            float fV = std::min(1.0f, (fCore + fHalo) * fEdge * fEdge);
+            return CRgba{fV, fV, fV, fV};
+        });
+    return Canvas;
+}
 } // namespace
 
-Pictures flarePictures() { return {inHud("flare.tga", flare)}; }
-
+CPictures FlarePictures()
+{
+    return {InHud("flare.tga", Flare)};
+}
 } // namespace art

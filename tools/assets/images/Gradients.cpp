@@ -2,40 +2,49 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-namespace art {
-
-Rgba sample(const Ramp &ramp, float t)
+namespace art
 {
-    if (t <= ramp.front().at)
-        return ramp.front().colour;
-    for (std::size_t i = 1; i < ramp.size(); ++i)
-        if (t <= ramp[i].at) {
-            float span = ramp[i].at - ramp[i - 1].at;
-            float f = span > 0.0f ? (t - ramp[i - 1].at) / span : 1.0f;
+CRgba Sample(const CRamp& vRamp, float fT)
+{
+    if(fT <= vRamp.front().m_fAt)
+        return vRamp.front().m_Colour;
+    for(std::size_t i = 1; i < vRamp.size(); ++i)
+        if(fT <= vRamp[i].m_fAt)
+        {
+            float fSpan = vRamp[i].m_fAt - vRamp[i - 1].m_fAt;
+            float fFraction = fSpan > 0.0f ? (fT - vRamp[i - 1].m_fAt) / fSpan : 1.0f;
             // Smooth the steps between stops so that no band edges show.
-            f = f * f * (3.0f - 2.0f * f);
-            return mix(ramp[i - 1].colour, ramp[i].colour, f);
+            fFraction = fFraction * fFraction * (3.0f - 2.0f * fFraction);
+            return Mix(vRamp[i - 1].m_Colour, vRamp[i].m_Colour, fFraction);
         }
-    return ramp.back().colour;
+    return vRamp.back().m_Colour;
 }
 
-Paint linear(float x0, float y0, float x1, float y1, Ramp ramp)
+CPaint Linear(float fX0, float fY0, float fX1, float fY1, CRamp vRamp)
 {
-    float dx = x1 - x0, dy = y1 - y0, len2 = dx * dx + dy * dy;
-    return [=](float x, float y) { return sample(ramp, ((x - x0) * dx + (y - y0) * dy) / len2); };
+    float fDx = fX1 - fX0, fDy = fY1 - fY0, fLen2 = fDx * fDx + fDy * fDy;
+    return [=, vRamp = std::move(vRamp)](float fX, float fY)
+    { return Sample(vRamp, ((fX - fX0) * fDx + (fY - fY0) * fDy) / fLen2); };
 }
 
-Paint vertical(float top, float bottom, Ramp ramp) { return linear(0, top, 0, bottom, std::move(ramp)); }
-
-Paint radial(float cx, float cy, float radius, Ramp ramp) { return oval(cx, cy, radius, radius, std::move(ramp)); }
-
-Paint oval(float cx, float cy, float rx, float ry, Ramp ramp)
+CPaint Vertical(float fTop, float fBottom, CRamp vRamp)
 {
-    return [=](float x, float y) {
-        float u = (x - cx) / rx, v = (y - cy) / ry;
-        return sample(ramp, std::sqrt(u * u + v * v));
+    return Linear(0, fTop, 0, fBottom, std::move(vRamp));
+}
+
+CPaint Radial(float fCx, float fCy, float fRadius, CRamp vRamp)
+{
+    return Oval(fCx, fCy, fRadius, fRadius, std::move(vRamp));
+}
+
+CPaint Oval(float fCx, float fCy, float fRx, float fRy, CRamp vRamp)
+{
+    return [=, vRamp = std::move(vRamp)](float fX, float fY)
+    {
+        float fU = (fX - fCx) / fRx, fV = (fY - fCy) / fRy;
+        return Sample(vRamp, std::sqrt(fU * fU + fV * fV));
     };
 }
-
 } // namespace art

@@ -5,21 +5,21 @@
 
 #include <vector>
 
-namespace art {
-
-struct Stop {
-    float at; // 0..1 along the ramp
-    Rgba colour;
+namespace art
+{
+struct CStop
+{
+    float m_fAt; // 0..1 along the ramp
+    CRgba m_Colour;
 };
 
-using Ramp = std::vector<Stop>;
+using CRamp = std::vector<CStop>;
 
-Rgba sample(const Ramp &ramp, float t);
+CRgba Sample(const CRamp& vRamp, float fT);
 
-Paint linear(float x0, float y0, float x1, float y1, Ramp ramp);
-Paint vertical(float top, float bottom, Ramp ramp);
-Paint radial(float cx, float cy, float radius, Ramp ramp);
+CPaint Linear(float fX0, float fY0, float fX1, float fY1, CRamp vRamp);
+CPaint Vertical(float fTop, float fBottom, CRamp vRamp);
+CPaint Radial(float fCx, float fCy, float fRadius, CRamp vRamp);
 // Radial with separate horizontal and vertical reach: for wide, flat glows.
-Paint oval(float cx, float cy, float rx, float ry, Ramp ramp);
-
+CPaint Oval(float fCx, float fCy, float fRx, float fRy, CRamp vRamp);
 } // namespace art

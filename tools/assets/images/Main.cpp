@@ -14,8 +14,8 @@
 #include "Catalogue.h"
 #include "ContactSheet.h"
 #include "PngFile.h"
-#include "TgaFile.h"
 #include "Text.h"
+#include "TgaFile.h"
 
 #include <SDL.h>
 
@@ -25,93 +25,100 @@
 #include <stdexcept>
 #include <string>
 
-namespace {
-
-struct Options {
-    std::string dataDir;
-    std::string contactSheet; // empty when none is wanted
-    int iconSize = 0;         // above 0: write only the icon, to iconFile
-    std::string iconFile;
+namespace
+{
+struct COptions
+{
+    std::string m_DataDir;
+    std::string m_ContactSheet; // empty when none is wanted
+    int m_iIconSize = 0;        // above 0: write only the icon, to m_IconFile
+    std::string m_IconFile;
 };
 
-bool parseIcon(int argc, char **argv, Options &options)
+bool ParseIcon(int iArgCount, char** ppArgs, COptions& Options)
 {
-    if (argc != 4)
+    if(iArgCount != 4)
         return false;
-    char *end = nullptr;
-    long size = std::strtol(argv[2], &end, 10);
-    if (*end != '\0' || size < 16 || size > 1024)
+    char* pEnd = nullptr;
+    long lSize = std::strtol(ppArgs[2], &pEnd, 10);
+    if(*pEnd != '\0' || lSize < 16 || lSize > 1024)
         return false;
-    options.iconSize = static_cast<int>(size);
-    options.iconFile = argv[3];
+    Options.m_iIconSize = static_cast<int>(lSize);
+    Options.m_IconFile = ppArgs[3];
     return true;
 }
 
-bool parse(int argc, char **argv, Options &options)
+bool Parse(int iArgCount, char** ppArgs, COptions& Options)
 {
-    if (argc > 1 && std::string(argv[1]) == "--icon")
-        return parseIcon(argc, argv, options);
-    for (int i = 1; i < argc; ++i) {
-        std::string arg = argv[i];
-        if (arg == "--contact-sheet" && i + 1 < argc)
-            options.contactSheet = argv[++i];
-        else if (!arg.empty() && arg[0] != '-' && options.dataDir.empty())
-            options.dataDir = arg;
+    if(iArgCount > 1 && std::string(ppArgs[1]) == "--icon")
+        return ParseIcon(iArgCount, ppArgs, Options);
+    for(int i = 1; i < iArgCount; ++i)
+    {
+        std::string Arg = ppArgs[i];
+        if(Arg == "--contact-sheet" && i + 1 < iArgCount)
+            Options.m_ContactSheet = ppArgs[++i];
+        else if(!Arg.empty() && Arg[0] != '-' && Options.m_DataDir.empty())
+            Options.m_DataDir = Arg;
         else
             return false;
     }
-    return !options.dataDir.empty();
+    return !Options.m_DataDir.empty();
 }
 
-bool endsWith(const std::string &s, const std::string &tail)
+bool EndsWith(const std::string& Text, const std::string& Tail)
 {
-    return s.size() >= tail.size() && s.compare(s.size() - tail.size(), tail.size(), tail) == 0;
+    return Text.size() >= Tail.size() && Text.compare(Text.size() - Tail.size(), Tail.size(), Tail) == 0;
 }
 
-void writePicture(const art::Canvas &canvas, const std::filesystem::path &file)
+void WritePicture(const art::CCanvas& Canvas, const std::filesystem::path& File)
 {
-    std::error_code error;
-    std::filesystem::create_directories(file.parent_path(), error);
-    if (error)
-        throw std::runtime_error("cannot make folder " + file.parent_path().string() + ": " + error.message());
-    if (endsWith(file.string(), ".tga"))
-        art::saveTga(canvas, file.string());
+    std::error_code Error;
+    std::filesystem::create_directories(File.parent_path(), Error);
+    if(Error)
+        throw std::runtime_error("cannot make folder " + File.parent_path().string() + ": " + Error.message());
+    if(EndsWith(File.string(), ".tga"))
+        art::SaveTga(Canvas, File.string());
     else
-        art::savePng(canvas, file.string());
+        art::SavePng(Canvas, File.string());
 }
 
-void run(const Options &options)
+void Run(const COptions& Options)
 {
-    if (options.iconSize > 0) {
-        writePicture(art::appIcon(options.iconSize), options.iconFile);
+    if(Options.m_iIconSize > 0)
+    {
+        WritePicture(art::AppIcon(Options.m_iIconSize), Options.m_IconFile);
         return;
     }
-    art::openFonts();
-    art::ContactSheet sheet;
-    for (const art::Picture &picture : art::catalogue()) {
-        art::Canvas canvas = picture.draw();
-        writePicture(canvas, std::filesystem::path(options.dataDir) / picture.path);
-        if (!options.contactSheet.empty())
-            sheet.add(picture.path, canvas);
+    art::OpenFonts();
+    art::CContactSheet Sheet;
+    for(const art::CPicture& Picture : art::Catalogue())
+    {
+        art::CCanvas Canvas = Picture.m_fnDraw();
+        WritePicture(Canvas, std::filesystem::path(Options.m_DataDir) / Picture.m_Path);
+        if(!Options.m_ContactSheet.empty())
+            Sheet.Add(Picture.m_Path, Canvas);
     }
-    if (!options.contactSheet.empty())
-        writePicture(sheet.render(), options.contactSheet);
-    art::closeFonts();
+    if(!Options.m_ContactSheet.empty())
+        WritePicture(Sheet.Render(), Options.m_ContactSheet);
+    art::CloseFonts();
 }
-
 } // namespace
 
-int main(int argc, char **argv)
+int main(int iArgCount, char** ppArgs)
 {
-    Options options;
-    if (!parse(argc, argv, options)) {
+    COptions Options;
+    if(!Parse(iArgCount, ppArgs, Options))
+    {
         std::fprintf(stderr, "usage: trelvane-images OUT_DATA_DIR [--contact-sheet FILE.png] | --icon SIZE FILE.png\n");
         return 2;
     }
-    try {
-        run(options);
-    } catch (const std::exception &e) {
-        std::fprintf(stderr, "trelvane-images: %s\n", e.what());
+    try
+    {
+        Run(Options);
+    }
+    catch(const std::exception& Failure)
+    {
+        std::fprintf(stderr, "trelvane-images: %s\n", Failure.what());
         return 1;
     }
     return 0;

@@ -8,88 +8,90 @@
 #include <algorithm>
 #include <cmath>
 
-namespace art {
-
-namespace {
-
-// Light from the upper left and a little towards the viewer.
-constexpr float kLightX = -0.48f, kLightY = -0.62f, kLightZ = 0.62f;
-
-Paint sphereShade(float cx, float cy, float radius, Rgba base)
+namespace art
 {
-    return [=](float x, float y) {
-        float nx = (x - cx) / radius, ny = (y - cy) / radius;
-        float nz = std::sqrt(std::max(0.0f, 1.0f - nx * nx - ny * ny));
-        float diffuse = std::max(0.0f, nx * kLightX + ny * kLightY + nz * kLightZ);
+namespace
+{
+// Light from the upper left and a little towards the viewer.
+constexpr float LIGHT_X = -0.48f, LIGHT_Y = -0.62f, LIGHT_Z = 0.62f;
+
+CPaint SphereShade(float fCx, float fCy, float fRadius, CRgba Base)
+{
+    return [=](float fX, float fY)
+    {
+        float fNx = (fX - fCx) / fRadius, fNy = (fY - fCy) / fRadius;
+        float fNz = std::sqrt(std::max(0.0f, 1.0f - fNx * fNx - fNy * fNy));
+        float fDiffuse = std::max(0.0f, fNx * LIGHT_X + fNy * LIGHT_Y + fNz * LIGHT_Z);
         // Reflected light towards the viewer (0, 0, 1): the highlight.
-        float rz = 2.0f * diffuse * nz - kLightZ;
-        float shine = std::pow(std::max(0.0f, rz), 24.0f);
+        float fRz = 2.0f * fDiffuse * fNz - LIGHT_Z;
+        float fShine = std::pow(std::max(0.0f, fRz), 24.0f);
         // Light that comes through the glass, brightest on the side away from the lamp.
-        float glow = std::max(0.0f, -(nx * kLightX + ny * kLightY)) * (1.0f - nz) * 0.55f;
-        float shade = 0.22f + 0.85f * diffuse + glow;
-        Rgba c = scaled(base, shade);
-        c = mix(c, Rgba{1, 1, 1, 1}, std::min(1.0f, shine * 0.9f));
-        return withAlpha(c, 1.0f);
+        float fGlow = std::max(0.0f, -(fNx * LIGHT_X + fNy * LIGHT_Y)) * (1.0f - fNz) * 0.55f;
+        float fShade = 0.22f + 0.85f * fDiffuse + fGlow;
+        CRgba Colour = Scaled(Base, fShade);
+        Colour = Mix(Colour, CRgba{1, 1, 1, 1}, std::min(1.0f, fShine * 0.9f));
+        return WithAlpha(Colour, 1.0f);
     };
 }
 
 // Runs of one to three balls of one colour, as chains come in play.
-std::vector<int> chainColours(std::size_t count, std::uint64_t seed)
+std::vector<int> ChainColours(std::size_t nCount, std::uint64_t ulSeed)
 {
-    Random rng(seed);
-    std::vector<int> colours;
-    int colour = rng.below(6);
-    while (colours.size() < count) {
-        int run = 1 + rng.below(3);
-        for (int i = 0; i < run && colours.size() < count; ++i)
-            colours.push_back(colour);
-        colour = (colour + 1 + rng.below(5)) % 6;
+    CRandom Rng(ulSeed);
+    std::vector<int> vColours;
+    int iColour = Rng.Below(6);
+    while(vColours.size() < nCount)
+    {
+        int iRun = 1 + Rng.Below(3);
+        for(int i = 0; i < iRun && vColours.size() < nCount; ++i)
+            vColours.push_back(iColour);
+        iColour = (iColour + 1 + Rng.Below(5)) % 6;
     }
-    return colours;
+    return vColours;
 }
-
 } // namespace
 
-void drawMarble(Canvas &canvas, float cx, float cy, float radius, Rgba colour, float opacity)
+void DrawMarble(CCanvas& Canvas, float fCx, float fCy, float fRadius, CRgba Colour, float fOpacity)
 {
     // Contact shadow first, so the ball sits on whatever lies under it.
-    Mask shadow = blurred(rasterize(ellipse(cx + radius * 0.12f, cy + radius * 0.22f, radius * 0.95f, radius * 0.9f)),
-                          std::max(2.0f, radius * 0.35f));
-    canvas.paint(shadow, solid({0, 0, 0, 0.45f}), Blend::Over, opacity);
-    canvas.paint(rasterize(circle(cx, cy, radius)), sphereShade(cx, cy, radius, colour), Blend::Over, opacity);
+    CMask Shadow =
+        Blurred(Rasterize(Ellipse(fCx + fRadius * 0.12f, fCy + fRadius * 0.22f, fRadius * 0.95f, fRadius * 0.9f)),
+                std::max(2.0f, fRadius * 0.35f));
+    Canvas.Paint(Shadow, Solid({0, 0, 0, 0.45f}), EBlend::Over, fOpacity);
+    Canvas.Paint(Rasterize(Circle(fCx, fCy, fRadius)), SphereShade(fCx, fCy, fRadius, Colour), EBlend::Over, fOpacity);
     // A thin dark rim keeps small balls crisp against any ground.
-    canvas.paint(rasterize(outline(circle(cx, cy, radius - 0.4f), std::max(0.8f, radius * 0.06f))),
-                 solid(withAlpha(scaled(colour, 0.3f), 0.6f)), Blend::Over, opacity);
+    Canvas.Paint(Rasterize(Outline(Circle(fCx, fCy, fRadius - 0.4f), std::max(0.8f, fRadius * 0.06f))),
+                 Solid(WithAlpha(Scaled(Colour, 0.3f), 0.6f)), EBlend::Over, fOpacity);
 }
 
-void drawPit(Canvas &canvas, float cx, float cy, float radius, float opacity)
+void DrawPit(CCanvas& Canvas, float fCx, float fCy, float fRadius, float fOpacity)
 {
-    canvas.paint(blurred(rasterize(circle(cx, cy, radius * 1.2f)), radius * 0.6f), solid(withAlpha(theme::gold(), 0.35f)),
-                 Blend::Add, opacity);
-    canvas.paint(rasterize(circle(cx, cy, radius)),
-                 radial(cx - radius * 0.2f, cy - radius * 0.2f, radius * 1.2f,
-                        {{0.0f, hex(0x000000)}, {0.7f, hex(0x0c0a18)}, {1.0f, hex(0x3a2a1a)}}),
-                 Blend::Over, opacity);
-    canvas.paint(rasterize(outline(circle(cx, cy, radius), 2.0f)), solid(withAlpha(theme::goldDeep(), 0.9f)),
-                 Blend::Over, opacity);
+    Canvas.Paint(Blurred(Rasterize(Circle(fCx, fCy, fRadius * 1.2f)), fRadius * 0.6f),
+                 Solid(WithAlpha(theme::Gold(), 0.35f)), EBlend::Add, fOpacity);
+    Canvas.Paint(Rasterize(Circle(fCx, fCy, fRadius)),
+                 Radial(fCx - fRadius * 0.2f, fCy - fRadius * 0.2f, fRadius * 1.2f,
+                        {{0.0f, Hex(0x000000)}, {0.7f, Hex(0x0c0a18)}, {1.0f, Hex(0x3a2a1a)}}),
+                 EBlend::Over, fOpacity);
+    Canvas.Paint(Rasterize(Outline(Circle(fCx, fCy, fRadius), 2.0f)), Solid(WithAlpha(theme::GoldDeep(), 0.9f)),
+                 EBlend::Over, fOpacity);
 }
 
-void drawGroove(Canvas &canvas, const std::vector<Point> &path, float ballRadius, float opacity)
+void DrawGroove(CCanvas& Canvas, const std::vector<CPoint>& vPath, float fBallRadius, float fOpacity)
 {
-    canvas.paint(rasterize(polyline(path, ballRadius * 1.5f), 1.5f), solid(hex(0x02030a, 0.55f)), Blend::Over, opacity);
-    canvas.paint(rasterize(polyline(path, 2.0f)), solid(withAlpha(theme::gold(), 0.35f)), Blend::Over, opacity);
+    Canvas.Paint(Rasterize(Polyline(vPath, fBallRadius * 1.5f), 1.5f), Solid(Hex(0x02030a, 0.55f)), EBlend::Over,
+                 fOpacity);
+    Canvas.Paint(Rasterize(Polyline(vPath, 2.0f)), Solid(WithAlpha(theme::Gold(), 0.35f)), EBlend::Over, fOpacity);
 }
 
-void drawChain(Canvas &canvas, const std::vector<Point> &path, const ChainLook &look)
+void DrawChain(CCanvas& Canvas, const std::vector<CPoint>& vPath, const CChainLook& Look)
 {
-    if (look.grooveOpacity > 0.0f)
-        drawGroove(canvas, path, look.radius, look.grooveOpacity);
-    std::vector<Point> centres = spaced(path, look.radius * 2.0f);
-    std::vector<int> colours = chainColours(centres.size(), look.seed);
-    auto palette = theme::balls();
-    for (std::size_t i = 0; i < centres.size(); ++i)
-        drawMarble(canvas, centres[i].x, centres[i].y, look.radius, palette[static_cast<std::size_t>(colours[i])],
-                   look.opacity);
+    if(Look.m_fGrooveOpacity > 0.0f)
+        DrawGroove(Canvas, vPath, Look.m_fRadius, Look.m_fGrooveOpacity);
+    std::vector<CPoint> vCentres = Spaced(vPath, Look.m_fRadius * 2.0f);
+    std::vector<int> vColours = ChainColours(vCentres.size(), Look.m_ulSeed);
+    auto aPalette = theme::Balls();
+    for(std::size_t i = 0; i < vCentres.size(); ++i)
+        DrawMarble(Canvas, vCentres[i].m_fX, vCentres[i].m_fY, Look.m_fRadius,
+                   aPalette[static_cast<std::size_t>(vColours[i])], Look.m_fOpacity);
 }
-
 } // namespace art

@@ -6,21 +6,20 @@
 #include <stdexcept>
 #include <vector>
 
-namespace art {
-
-void savePng(const Canvas &canvas, const std::string &path)
+namespace art
 {
-    std::vector<std::uint32_t> argb = canvas.toArgb();
+void SavePng(const CCanvas& Canvas, const std::string& Path)
+{
+    std::vector<std::uint32_t> vArgb = Canvas.ToArgb();
     // The surface borrows the pixel words; with identical pixels the encoder writes identical bytes, and it
     // stamps no time into the file.
-    SDL_Surface *surface = SDL_CreateRGBSurfaceWithFormatFrom(argb.data(), canvas.width(), canvas.height(), 32,
-                                                              canvas.width() * 4, SDL_PIXELFORMAT_ARGB8888);
-    if (!surface)
-        throw std::runtime_error("cannot make a surface for " + path + ": " + SDL_GetError());
-    int result = IMG_SavePNG(surface, path.c_str());
-    SDL_FreeSurface(surface);
-    if (result != 0)
-        throw std::runtime_error("cannot write " + path + ": " + IMG_GetError());
+    SDL_Surface* pSurface = SDL_CreateRGBSurfaceWithFormatFrom(vArgb.data(), Canvas.Width(), Canvas.Height(), 32,
+                                                               Canvas.Width() * 4, SDL_PIXELFORMAT_ARGB8888);
+    if(!pSurface)
+        throw std::runtime_error("cannot make a surface for " + Path + ": " + SDL_GetError());
+    int iResult = IMG_SavePNG(pSurface, Path.c_str());
+    SDL_FreeSurface(pSurface);
+    if(iResult != 0)
+        throw std::runtime_error("cannot write " + Path + ": " + IMG_GetError());
 }
-
 } // namespace art

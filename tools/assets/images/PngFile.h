@@ -5,9 +5,8 @@
 
 #include <string>
 
-namespace art {
-
+namespace art
+{
 // Throws std::runtime_error with the file name if the file can't be written.
-void savePng(const Canvas &canvas, const std::string &path);
-
+void SavePng(const CCanvas& Canvas, const std::string& Path);
 } // namespace art

@@ -4,27 +4,27 @@
 
 #include <cstdint>
 
-namespace art {
-
-class Random {
+namespace art
+{
+class CRandom
+{
 public:
-    explicit Random(std::uint64_t seed) : state_(seed) {}
+    explicit CRandom(std::uint64_t ulSeed) : m_ulState(ulSeed) {}
 
-    std::uint64_t next()
+    std::uint64_t Next()
     {
-        std::uint64_t z = (state_ += 0x9e3779b97f4a7c15ULL);
-        z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9ULL;
-        z = (z ^ (z >> 27)) * 0x94d049bb133111ebULL;
-        return z ^ (z >> 31);
+        std::uint64_t ulZ = (m_ulState += 0x9e3779b97f4a7c15ULL);
+        ulZ = (ulZ ^ (ulZ >> 30)) * 0xbf58476d1ce4e5b9ULL;
+        ulZ = (ulZ ^ (ulZ >> 27)) * 0x94d049bb133111ebULL;
+        return ulZ ^ (ulZ >> 31);
     }
 
     // Uniform in [0, 1), 24 bits of precision, exact in a float.
-    float unit() { return static_cast<float>(next() >> 40) / 16777216.0f; }
-    float range(float low, float high) { return low + (high - low) * unit(); }
-    int below(int n) { return static_cast<int>(next() % static_cast<std::uint64_t>(n)); }
+    float Unit() { return static_cast<float>(Next() >> 40) / 16777216.0f; }
+    float Range(float fLow, float fHigh) { return fLow + (fHigh - fLow) * Unit(); }
+    int Below(int iCount) { return static_cast<int>(Next() % static_cast<std::uint64_t>(iCount)); }
 
 private:
-    std::uint64_t state_;
+    std::uint64_t m_ulState;
 };
-
 } // namespace art

@@ -15,88 +15,100 @@
 
 #include <cmath>
 
-namespace art {
-
-namespace {
-
-constexpr float kPi = 3.14159265f;
-constexpr float kTitleCentre = 262; // middle of the band between the two blocks of text
-
-void subtitle(Canvas &c, const std::string &text)
+namespace art
 {
-    TextStyle st = plain(Face::Regular, 17, theme::mist());
-    st.shadow = 2.0f;
-    drawText(c, text, 400, 302, st, Align::Centre);
+namespace
+{
+constexpr float PI = 3.14159265f;
+constexpr float TITLE_CENTRE = 262; // middle of the band between the two blocks of text
+
+void Subtitle(CCanvas& Canvas, const std::string& Text)
+{
+    CTextStyle Style = Plain(EFace::Regular, 17, theme::Mist());
+    Style.m_fShadow = 2.0f;
+    DrawText(Canvas, Text, 400, 302, Style, EAlign::Centre);
 }
 
-void statsPanel(Canvas &c) { glassPanel(c, 182, 338, 598, 222, 0.9f); }
+void StatsPanel(CCanvas& Canvas)
+{
+    GlassPanel(Canvas, 182, 338, 598, 222, 0.9f);
+}
 
 // Where the game writes: the score list, the statistics, and our own title.
-bool keepsClear(float x, float y)
+bool KeepsClear(float fX, float fY)
 {
-    bool list = y < 196 && x > 180 && x < 660;
-    bool stats = y > 326 && x > 170;
-    bool title = y > 206 && y < 326 && x > 130 && x < 670;
-    return !(list || stats || title);
+    bool bList = fY < 196 && fX > 180 && fX < 660;
+    bool bStats = fY > 326 && fX > 170;
+    bool bTitle = fY > 206 && fY < 326 && fX > 130 && fX < 670;
+    return !(bList || bStats || bTitle);
 }
 
 // Marbles flung out in a ring, as a chain bursts, with sparks between them.
-void burst(Canvas &c)
+void Burst(CCanvas& Canvas)
 {
-    Random rng(404);
-    auto palette = theme::balls();
-    for (int i = 0; i < 44; ++i) {
-        float angle = 2 * kPi * i / 44 + rng.range(-0.05f, 0.05f), reach = rng.range(0.8f, 1.2f);
-        float x = 400 + std::cos(angle) * 330 * reach, y = kTitleCentre + std::sin(angle) * 150 * reach;
-        if (!keepsClear(x, y))
+    CRandom Rng(404);
+    auto aPalette = theme::Balls();
+    for(int i = 0; i < 44; ++i)
+    {
+        float fAngle = 2 * PI * i / 44 + Rng.Range(-0.05f, 0.05f), fReach = Rng.Range(0.8f, 1.2f);
+        float fX = 400 + std::cos(fAngle) * 330 * fReach, fY = TITLE_CENTRE + std::sin(fAngle) * 150 * fReach;
+        if(!KeepsClear(fX, fY))
             continue;
-        drawMarble(c, x, y, rng.range(6, 11), palette[static_cast<std::size_t>(i % 6)], rng.range(0.75f, 1.0f));
+        DrawMarble(Canvas, fX, fY, Rng.Range(6, 11), aPalette[static_cast<std::size_t>(i % 6)], Rng.Range(0.75f, 1.0f));
     }
-    for (int i = 0; i < 30; ++i) {
-        float x = rng.range(20, 780), y = rng.range(20, 580), r = rng.range(3, 7);
-        if (!keepsClear(x, y))
+    for(int i = 0; i < 30; ++i)
+    {
+        float fX = Rng.Range(20, 780), fY = Rng.Range(20, 580), fR = Rng.Range(3, 7);
+        if(!KeepsClear(fX, fY))
             continue;
-        Shape spark = polygon({{x, y - r}, {x + r * 0.22f, y}, {x, y + r}, {x - r * 0.22f, y}});
-        c.paint(rasterize(unite(spark, polygon({{x - r, y}, {x, y - r * 0.22f}, {x + r, y}, {x, y + r * 0.22f}}))),
-                solid(withAlpha(theme::goldLight(), 0.8f)), Blend::Add);
+        CShape Spark = Polygon({{fX, fY - fR}, {fX + fR * 0.22f, fY}, {fX, fY + fR}, {fX - fR * 0.22f, fY}});
+        Canvas.Paint(Rasterize(Unite(
+                         Spark, Polygon({{fX - fR, fY}, {fX, fY - fR * 0.22f}, {fX + fR, fY}, {fX, fY + fR * 0.22f}}))),
+                     Solid(WithAlpha(theme::GoldLight(), 0.8f)), EBlend::Add);
     }
 }
 
-Canvas winPicture()
+CCanvas WinPicture()
 {
-    Canvas c = menuBackdrop(81);
+    CCanvas Canvas = MenuBackdrop(81);
     // Warm light rising behind the title.
-    c.paint(fullMask(kScreenWidth, kScreenHeight),
-            oval(400, kTitleCentre, 420, 130, {{0.0f, hex(0xe8b94a, 0.38f)}, {0.6f, hex(0xa04a6a, 0.12f)}, {1.0f, hex(0, 0)}}));
-    for (int i = 0; i < 14; ++i) {
-        float a = kPi * (i / 14.0f) * 2.0f;
-        Point tip{400 + std::cos(a) * 520, kTitleCentre + std::sin(a) * 230};
-        c.paint(blurred(rasterize(polygon({{400, kTitleCentre}, tip, {tip.x + 40 * std::sin(a), tip.y - 40 * std::cos(a)}})), 6),
-                solid(hex(0xffe7a3, 0.05f)), Blend::Add);
+    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT),
+                 Oval(400, TITLE_CENTRE, 420, 130,
+                      {{0.0f, Hex(0xe8b94a, 0.38f)}, {0.6f, Hex(0xa04a6a, 0.12f)}, {1.0f, Hex(0, 0)}}));
+    for(int i = 0; i < 14; ++i)
+    {
+        float fA = PI * (i / 14.0f) * 2.0f;
+        CPoint Tip{400 + std::cos(fA) * 520, TITLE_CENTRE + std::sin(fA) * 230};
+        Canvas.Paint(
+            Blurred(Rasterize(Polygon(
+                        {{400, TITLE_CENTRE}, Tip, {Tip.m_fX + 40 * std::sin(fA), Tip.m_fY - 40 * std::cos(fA)}})),
+                    6),
+            Solid(Hex(0xffe7a3, 0.05f)), EBlend::Add);
     }
-    burst(c);
+    Burst(Canvas);
     // The same picture greets a cleared level and a network race won on points, so it says only who won.
-    screenTitle(c, "You Win!", 400, kTitleCentre - 40, 54, true);
-    subtitle(c, "Well played!");
-    statsPanel(c);
-    return c;
+    ScreenTitle(Canvas, "You Win!", 400, TITLE_CENTRE - 40, 54, true);
+    Subtitle(Canvas, "Well played!");
+    StatsPanel(Canvas);
+    return Canvas;
 }
 
-Canvas losePicture()
+CCanvas LosePicture()
 {
-    Canvas c = menuBackdrop(91);
-    c.paint(fullMask(kScreenWidth, kScreenHeight),
-            oval(400, kTitleCentre, 420, 120, {{0.0f, hex(0x8a2a3a, 0.32f)}, {1.0f, hex(0, 0)}}));
+    CCanvas Canvas = MenuBackdrop(91);
+    Canvas.Paint(FullMask(SCREEN_WIDTH, SCREEN_HEIGHT),
+                 Oval(400, TITLE_CENTRE, 420, 120, {{0.0f, Hex(0x8a2a3a, 0.32f)}, {1.0f, Hex(0, 0)}}));
     // A chain that made it all the way down to its pit.
-    decorativeChain(c, {{40, -20}, {120, 120}, {60, 260}, {120, 380}, {90, 470}}, 12, 37);
-    screenTitle(c, "Level Lost", 400, kTitleCentre - 40, 54, true);
-    subtitle(c, "Better luck next time!");
-    statsPanel(c);
-    return c;
+    DecorativeChain(Canvas, {{40, -20}, {120, 120}, {60, 260}, {120, 380}, {90, 470}}, 12, 37);
+    ScreenTitle(Canvas, "Level Lost", 400, TITLE_CENTRE - 40, 54, true);
+    Subtitle(Canvas, "Better luck next time!");
+    StatsPanel(Canvas);
+    return Canvas;
 }
-
 } // namespace
 
-Pictures resultPictures() { return {inMenus("win.png", winPicture), inMenus("lose.png", losePicture)}; }
-
+CPictures ResultPictures()
+{
+    return {InMenus("win.png", WinPicture), InMenus("lose.png", LosePicture)};
+}
 } // namespace art

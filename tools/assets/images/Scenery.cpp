@@ -9,105 +9,114 @@
 #include <cmath>
 #include <vector>
 
-namespace art {
-
-namespace {
-
-// One pine: a trunk and a stack of drooping tiers, narrowing to the tip.
-Shape pine(float x, float ground, float height, Random &rng)
+namespace art
 {
-    std::vector<Point> left, right;
-    int tiers = 5 + rng.below(3);
-    float top = ground - height, halfBase = height * rng.range(0.2f, 0.26f);
-    left.push_back({x, top});
-    for (int i = 1; i <= tiers; ++i) {
-        float t = static_cast<float>(i) / tiers;
-        float y = top + height * 0.88f * t, half = halfBase * t;
-        float notch = half * 0.45f;
-        left.push_back({x - half, y});
-        left.push_back({x - notch, y - height * 0.03f});
-        right.push_back({x + notch, y - height * 0.03f});
-        right.push_back({x + half, y});
+namespace
+{
+// One pine: a trunk and a stack of drooping tiers, narrowing to the tip.
+CShape Pine(float fX, float fGround, float fHeight, CRandom& Rng)
+{
+    std::vector<CPoint> vLeft, vRight;
+    int iTiers = 5 + Rng.Below(3);
+    float fTop = fGround - fHeight, fHalfBase = fHeight * Rng.Range(0.2f, 0.26f);
+    vLeft.push_back({fX, fTop});
+    for(int i = 1; i <= iTiers; ++i)
+    {
+        float fT = static_cast<float>(i) / iTiers;
+        float fY = fTop + fHeight * 0.88f * fT, fHalf = fHalfBase * fT;
+        float fNotch = fHalf * 0.45f;
+        vLeft.push_back({fX - fHalf, fY});
+        vLeft.push_back({fX - fNotch, fY - fHeight * 0.03f});
+        vRight.push_back({fX + fNotch, fY - fHeight * 0.03f});
+        vRight.push_back({fX + fHalf, fY});
     }
-    float trunk = std::max(1.5f, height * 0.03f);
-    left.push_back({x - trunk, ground + 2});
-    right.push_back({x + trunk, ground + 2});
-    std::vector<Point> outlinePoints = left;
-    outlinePoints.insert(outlinePoints.end(), right.rbegin(), right.rend());
-    return polygon(outlinePoints);
+    float fTrunk = std::max(1.5f, fHeight * 0.03f);
+    vLeft.push_back({fX - fTrunk, fGround + 2});
+    vRight.push_back({fX + fTrunk, fGround + 2});
+    std::vector<CPoint> vOutlinePoints = vLeft;
+    vOutlinePoints.insert(vOutlinePoints.end(), vRight.rbegin(), vRight.rend());
+    return Polygon(vOutlinePoints);
 }
-
 } // namespace
 
-Mask belowRidge(int width, int height, const std::function<float(float)> &ridgeY)
+CMask BelowRidge(int iWidth, int iHeight, const std::function<float(float)>& fnRidgeY)
 {
-    Mask m(0, 0, width, height);
-    for (int x = 0; x < width; ++x) {
-        float ridge = ridgeY(x + 0.5f);
-        for (int y = 0; y < height; ++y)
-            m.cell(x, y) = std::min(1.0f, std::max(0.0f, y + 1.0f - ridge));
+    CMask Mask(0, 0, iWidth, iHeight);
+    for(int iX = 0; iX < iWidth; ++iX)
+    {
+        float fRidge = fnRidgeY(iX + 0.5f);
+        for(int iY = 0; iY < iHeight; ++iY)
+            Mask.Cell(iX, iY) = std::min(1.0f, std::max(0.0f, iY + 1.0f - fRidge));
     }
-    return m;
+    return Mask;
 }
 
-std::function<float(float)> rollingRidge(std::uint32_t seed, float base, float amplitude, float featureWidth)
+std::function<float(float)> RollingRidge(std::uint32_t uiSeed, float fBase, float fAmplitude, float fFeatureWidth)
 {
-    Noise noise(seed);
-    return [noise, base, amplitude, featureWidth](float x) {
-        float n = noise.fractal(x, 0.5f, featureWidth, 4);
-        return base - (n - 0.5f) * 2.0f * amplitude;
+    CNoise Noise(uiSeed);
+    return [Noise, fBase, fAmplitude, fFeatureWidth](float fX)
+    {
+        float fN = Noise.Fractal(fX, 0.5f, fFeatureWidth, 4);
+        return fBase - (fN - 0.5f) * 2.0f * fAmplitude;
     };
 }
 
-void pineWood(Canvas &canvas, const WoodLook &look)
+void PineWood(CCanvas& Canvas, const CWoodLook& Look)
 {
-    Random rng(look.seed);
+    CRandom Rng(Look.m_ulSeed);
     // The wood's floor rolls a little, so that no straight line shows between the trunks.
-    auto floor = rollingRidge(static_cast<std::uint32_t>(look.seed), look.ground, 10.0f, 160.0f);
-    for (float x = rng.range(-look.spacing, 0); x < canvas.width() + look.spacing; x += look.spacing * rng.range(0.6f, 1.4f)) {
-        float height = rng.range(look.minHeight, look.maxHeight);
-        canvas.paint(rasterize(pine(x, floor(x) + 4.0f, height, rng)), solid(look.colour));
+    auto fnFloor = RollingRidge(static_cast<std::uint32_t>(Look.m_ulSeed), Look.m_fGround, 10.0f, 160.0f);
+    for(float fX = Rng.Range(-Look.m_fSpacing, 0); fX < Canvas.Width() + Look.m_fSpacing;
+        fX += Look.m_fSpacing * Rng.Range(0.6f, 1.4f))
+    {
+        float fHeight = Rng.Range(Look.m_fMinHeight, Look.m_fMaxHeight);
+        Canvas.Paint(Rasterize(Pine(fX, fnFloor(fX) + 4.0f, fHeight, Rng)), Solid(Look.m_Colour));
     }
-    canvas.paint(belowRidge(canvas.width(), canvas.height(), floor), solid(look.colour));
+    Canvas.Paint(BelowRidge(Canvas.Width(), Canvas.Height(), fnFloor), Solid(Look.m_Colour));
 }
 
-void moon(Canvas &canvas, float cx, float cy, float radius, Rgba tint, float glow)
+void Moon(CCanvas& Canvas, float fCx, float fCy, float fRadius, CRgba Tint, float fGlow)
 {
-    canvas.paint(blurred(rasterize(circle(cx, cy, radius * 2.2f)), radius * 2.5f), solid(withAlpha(tint, glow)), Blend::Add);
-    canvas.paint(rasterize(circle(cx, cy, radius)),
-                 radial(cx - radius * 0.3f, cy - radius * 0.3f, radius * 1.5f, {{0.0f, tint}, {1.0f, scaled(tint, 0.75f)}}));
-    Noise marks(7);
-    canvas.paint(rasterize(circle(cx, cy, radius)), [&marks, tint](float x, float y) {
-        float n = marks.fractal(x, y, 9.0f, 3);
-        return withAlpha(scaled(tint, 0.6f), std::max(0.0f, n - 0.5f) * 0.9f);
-    });
+    Canvas.Paint(Blurred(Rasterize(Circle(fCx, fCy, fRadius * 2.2f)), fRadius * 2.5f), Solid(WithAlpha(Tint, fGlow)),
+                 EBlend::Add);
+    Canvas.Paint(Rasterize(Circle(fCx, fCy, fRadius)),
+                 Radial(fCx - fRadius * 0.3f, fCy - fRadius * 0.3f, fRadius * 1.5f,
+                        {{0.0f, Tint}, {1.0f, Scaled(Tint, 0.75f)}}));
+    CNoise Marks(7);
+    Canvas.Paint(Rasterize(Circle(fCx, fCy, fRadius)),
+                 [&Marks, Tint](float fX, float fY)
+                 {
+                     float fN = Marks.Fractal(fX, fY, 9.0f, 3);
+                     return WithAlpha(Scaled(Tint, 0.6f), std::max(0.0f, fN - 0.5f) * 0.9f);
+                 });
 }
 
-void waterGlints(Canvas &canvas, std::uint64_t seed, float x, float horizon, float width, Rgba tint)
+void WaterGlints(CCanvas& Canvas, std::uint64_t ulSeed, float fX, float fHorizon, float fWidth, CRgba Tint)
 {
-    Random rng(seed);
-    float depth = canvas.height() - horizon;
-    for (int i = 0; i < 140; ++i) {
-        float t = rng.unit();
-        float y = horizon + 3 + t * t * depth;
-        float spread = width * (0.4f + t * 1.4f);
-        float gx = x + rng.range(-spread, spread) * rng.unit();
-        float len = rng.range(6, 26) * (0.6f + t);
-        float fade = 1.0f - std::fabs(gx - x) / (spread + 1);
-        canvas.paint(rasterize(capsule({gx - len / 2, y}, {gx + len / 2, y}, 0.6f + t * 0.8f)),
-                     solid(withAlpha(tint, 0.35f * fade * (1.0f - 0.5f * t))), Blend::Add);
-    }
-}
-
-void fireflies(Canvas &canvas, std::uint64_t seed, int count, float top, float bottom)
-{
-    Random rng(seed);
-    for (int i = 0; i < count; ++i) {
-        float x = rng.range(0, static_cast<float>(canvas.width())), y = rng.range(top, bottom);
-        float glow = rng.range(0.25f, 0.6f);
-        canvas.paint(blurred(rasterize(circle(x, y, 2.5f)), 6.0f), solid(hex(0xc8e860, glow * 0.6f)), Blend::Add);
-        canvas.paint(rasterize(circle(x, y, 1.0f)), solid(hex(0xeaff9a, glow)), Blend::Add);
+    CRandom Rng(ulSeed);
+    float fDepth = Canvas.Height() - fHorizon;
+    for(int i = 0; i < 140; ++i)
+    {
+        float fT = Rng.Unit();
+        float fY = fHorizon + 3 + fT * fT * fDepth;
+        float fSpread = fWidth * (0.4f + fT * 1.4f);
+        float fGx = fX + Rng.Range(-fSpread, fSpread) * Rng.Unit();
+        float fLen = Rng.Range(6, 26) * (0.6f + fT);
+        float fFade = 1.0f - std::fabs(fGx - fX) / (fSpread + 1);
+        Canvas.Paint(Rasterize(Capsule({fGx - fLen / 2, fY}, {fGx + fLen / 2, fY}, 0.6f + fT * 0.8f)),
+                     Solid(WithAlpha(Tint, 0.35f * fFade * (1.0f - 0.5f * fT))), EBlend::Add);
     }
 }
 
+void Fireflies(CCanvas& Canvas, std::uint64_t ulSeed, int iCount, float fTop, float fBottom)
+{
+    CRandom Rng(ulSeed);
+    for(int i = 0; i < iCount; ++i)
+    {
+        float fX = Rng.Range(0, static_cast<float>(Canvas.Width())), fY = Rng.Range(fTop, fBottom);
+        float fGlow = Rng.Range(0.25f, 0.6f);
+        Canvas.Paint(Blurred(Rasterize(Circle(fX, fY, 2.5f)), 6.0f), Solid(Hex(0xc8e860, fGlow * 0.6f)), EBlend::Add);
+        Canvas.Paint(Rasterize(Circle(fX, fY, 1.0f)), Solid(Hex(0xeaff9a, fGlow)), EBlend::Add);
+    }
+}
 } // namespace art

@@ -6,31 +6,31 @@
 #include <cstdint>
 #include <functional>
 
-namespace art {
-
-// Everything below the ridge line ridgeY(x), with an antialiased top edge.
-Mask belowRidge(int width, int height, const std::function<float(float x)> &ridgeY);
+namespace art
+{
+// Everything below the ridge line fnRidgeY(x), with an antialiased top edge.
+CMask BelowRidge(int iWidth, int iHeight, const std::function<float(float fX)>& fnRidgeY);
 
 // A ridge line: a base height with rolling noise of the given height and feature width.
-std::function<float(float)> rollingRidge(std::uint32_t seed, float base, float amplitude, float featureWidth);
+std::function<float(float)> RollingRidge(std::uint32_t uiSeed, float fBase, float fAmplitude, float fFeatureWidth);
 
 // A row of pine silhouettes standing on the given ground line.
-struct WoodLook {
-    std::uint64_t seed = 1;
-    float ground = 500;          // foot of the trees
-    float minHeight = 60, maxHeight = 120;
-    float spacing = 30;          // mean distance between trunks
-    Rgba colour;
+struct CWoodLook
+{
+    std::uint64_t m_ulSeed = 1;
+    float m_fGround = 500; // foot of the trees
+    float m_fMinHeight = 60, m_fMaxHeight = 120;
+    float m_fSpacing = 30; // mean distance between trunks
+    CRgba m_Colour;
 };
-void pineWood(Canvas &canvas, const WoodLook &look);
+void PineWood(CCanvas& Canvas, const CWoodLook& Look);
 
 // A pale disc with a halo.
-void moon(Canvas &canvas, float cx, float cy, float radius, Rgba tint, float glow);
+void Moon(CCanvas& Canvas, float fCx, float fCy, float fRadius, CRgba Tint, float fGlow);
 
-// Horizontal glints on water below a light at x, from the horizon downwards.
-void waterGlints(Canvas &canvas, std::uint64_t seed, float x, float horizon, float width, Rgba tint);
+// Horizontal glints on water below a light at fX, from the horizon downwards.
+void WaterGlints(CCanvas& Canvas, std::uint64_t ulSeed, float fX, float fHorizon, float fWidth, CRgba Tint);
 
-// Small warm-green glows drifting between top and bottom.
-void fireflies(Canvas &canvas, std::uint64_t seed, int count, float top, float bottom);
-
+// Small warm-green glows drifting between fTop and fBottom.
+void Fireflies(CCanvas& Canvas, std::uint64_t ulSeed, int iCount, float fTop, float fBottom);
 } // namespace art

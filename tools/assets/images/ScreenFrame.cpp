@@ -7,49 +7,49 @@
 #include "Theme.h"
 #include "Widgets.h"
 
-namespace art {
-
-Canvas titledScreen(const std::string &title, std::uint64_t seed, int titleSize)
+namespace art
 {
-    Canvas c = menuBackdrop(seed);
-    screenTitle(c, title, theme::kMargin, 10, titleSize);
+CCanvas TitledScreen(const std::string& Title, std::uint64_t ulSeed, int iTitleSize)
+{
+    CCanvas Canvas = MenuBackdrop(ulSeed);
+    ScreenTitle(Canvas, Title, theme::MARGIN, 10, iTitleSize);
     // Under the title, and short of the return button at x 440.
-    rule(c, theme::kMargin - 10, 430, 12.0f + lineHeight(Face::Bold, titleSize), 0.7f);
-    return c;
+    Rule(Canvas, theme::MARGIN - 10, 430, 12.0f + LineHeight(EFace::Bold, iTitleSize), 0.7f);
+    return Canvas;
 }
 
-void nameMark(Canvas &canvas, float cy, int size)
+void NameMark(CCanvas& Canvas, float fCy, int iSize)
 {
-    screenTitle(canvas, "Trelvane", kScreenWidth / 2.0f, cy - lineHeight(Face::Bold, size) / 2.0f, size, true);
+    ScreenTitle(Canvas, "Trelvane", SCREEN_WIDTH / 2.0f, fCy - LineHeight(EFace::Bold, iSize) / 2.0f, iSize, true);
 }
 
-void decorativeChain(Canvas &canvas, const std::vector<Point> &through, float radius, std::uint64_t seed,
-                     float opacity)
+void DecorativeChain(CCanvas& Canvas, const std::vector<CPoint>& vThrough, float fRadius, std::uint64_t ulSeed,
+                     float fOpacity)
 {
-    std::vector<Point> path = smoothCurve(through, 24);
-    ChainLook look;
-    look.radius = radius;
-    look.opacity = opacity;
-    look.seed = seed;
+    std::vector<CPoint> vPath = SmoothCurve(vThrough, 24);
+    CChainLook Look;
+    Look.m_fRadius = fRadius;
+    Look.m_fOpacity = fOpacity;
+    Look.m_ulSeed = ulSeed;
     // The chain stops short of the pit, as a chain does while the player still has a chance.
-    std::vector<Point> rolling(path.begin(), path.end() - static_cast<long>(path.size() / 5));
-    drawGroove(canvas, path, radius, 0.6f * opacity);
-    drawPit(canvas, through.back().x, through.back().y, radius * 1.15f, opacity);
-    look.grooveOpacity = 0.0f;
-    drawChain(canvas, rolling, look);
+    std::vector<CPoint> vRolling(vPath.begin(), vPath.end() - static_cast<long>(vPath.size() / 5));
+    DrawGroove(Canvas, vPath, fRadius, 0.6f * fOpacity);
+    DrawPit(Canvas, vThrough.back().m_fX, vThrough.back().m_fY, fRadius * 1.15f, fOpacity);
+    Look.m_fGrooveOpacity = 0.0f;
+    DrawChain(Canvas, vRolling, Look);
 }
 
-void startGlow(Canvas &canvas, float strength)
+void StartGlow(CCanvas& Canvas, float fStrength)
 {
-    canvas.paint(blurred(rasterize(roundRect(603, 494, 173, 78, 39)), 14), solid(withAlpha(theme::gold(), strength)), Blend::Add);
+    Canvas.Paint(Blurred(Rasterize(RoundRect(603, 494, 173, 78, 39)), 14), Solid(WithAlpha(theme::Gold(), fStrength)),
+                 EBlend::Add);
 }
 
-float bulletLine(Canvas &canvas, const std::string &text, float x, float y, int width, int colour)
+float BulletLine(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iWidth, int iColour)
 {
-    auto palette = theme::balls();
-    int cap = capTop(Face::Regular, theme::kBodySize), base = baseline(Face::Regular, theme::kBodySize);
-    drawMarble(canvas, x + 6, y + (cap + base) / 2.0f, 5.5f, palette[static_cast<std::size_t>(colour % 6)]);
-    return paragraph(canvas, text, x + 20, y, width - 20, theme::kBodySize, theme::cream()) + 6.0f;
+    auto aPalette = theme::Balls();
+    int iCap = CapTop(EFace::Regular, theme::BODY_SIZE), iBase = Baseline(EFace::Regular, theme::BODY_SIZE);
+    DrawMarble(Canvas, fX + 6, fY + (iCap + iBase) / 2.0f, 5.5f, aPalette[static_cast<std::size_t>(iColour % 6)]);
+    return Paragraph(Canvas, Text, fX + 20, fY, iWidth - 20, theme::BODY_SIZE, theme::Cream()) + 6.0f;
 }
-
 } // namespace art

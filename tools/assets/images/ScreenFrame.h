@@ -9,22 +9,21 @@
 #include <string>
 #include <vector>
 
-namespace art {
+namespace art
+{
+// Backdrop with the title; iTitleSize 40 suits most screens.
+CCanvas TitledScreen(const std::string& Title, std::uint64_t ulSeed, int iTitleSize = 40);
 
-// Backdrop with the title; titleSize 40 suits most screens.
-Canvas titledScreen(const std::string &title, std::uint64_t seed, int titleSize = 40);
-
-// The game's name in large gold letters, centred on the screen's middle and on cy.
-void nameMark(Canvas &canvas, float cy, int size);
+// The game's name in large gold letters, centred on the screen's middle and on fCy.
+void NameMark(CCanvas& Canvas, float fCy, int iSize);
 
 // A chain through the given points (smoothed), ending in a pit at the last point.
-void decorativeChain(Canvas &canvas, const std::vector<Point> &through, float radius, std::uint64_t seed,
-                     float opacity = 0.9f);
+void DecorativeChain(CCanvas& Canvas, const std::vector<CPoint>& vThrough, float fRadius, std::uint64_t ulSeed,
+                     float fOpacity = 0.9f);
 
 // A warm glow where the start button (603, 494, 173 by 78) stands.
-void startGlow(Canvas &canvas, float strength);
+void StartGlow(CCanvas& Canvas, float fStrength);
 
 // A line of text with a marble as its bullet; returns the y below it.
-float bulletLine(Canvas &canvas, const std::string &text, float x, float y, int width, int colour);
-
+float BulletLine(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iWidth, int iColour);
 } // namespace art

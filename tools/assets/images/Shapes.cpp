@@ -2,214 +2,237 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
-namespace art {
-
-namespace {
-
-float length(float x, float y) { return std::sqrt(x * x + y * y); }
-
-float segmentDistance(Point p, Point a, Point b)
+namespace art
 {
-    float dx = b.x - a.x, dy = b.y - a.y;
-    float len2 = dx * dx + dy * dy;
-    float t = len2 > 0.0f ? ((p.x - a.x) * dx + (p.y - a.y) * dy) / len2 : 0.0f;
-    t = std::min(1.0f, std::max(0.0f, t));
-    return length(p.x - (a.x + dx * t), p.y - (a.y + dy * t));
+namespace
+{
+float Length(float fX, float fY)
+{
+    return std::sqrt(fX * fX + fY * fY);
 }
 
-Shape grown(Shape s, float by)
+float SegmentDistance(CPoint p, CPoint a, CPoint b)
 {
-    s.left -= by;
-    s.top -= by;
-    s.right += by;
-    s.bottom += by;
-    return s;
+    float fDx = b.m_fX - a.m_fX, fDy = b.m_fY - a.m_fY;
+    float fLen2 = fDx * fDx + fDy * fDy;
+    float fT = fLen2 > 0.0f ? ((p.m_fX - a.m_fX) * fDx + (p.m_fY - a.m_fY) * fDy) / fLen2 : 0.0f;
+    fT = std::min(1.0f, std::max(0.0f, fT));
+    return Length(p.m_fX - (a.m_fX + fDx * fT), p.m_fY - (a.m_fY + fDy * fT));
 }
 
-Shape boundsOf(const std::vector<Point> &points, float margin)
+CShape Grown(CShape Shape, float fBy)
 {
-    Shape s{1e9f, 1e9f, -1e9f, -1e9f, nullptr};
-    for (const Point &p : points) {
-        s.left = std::min(s.left, p.x);
-        s.top = std::min(s.top, p.y);
-        s.right = std::max(s.right, p.x);
-        s.bottom = std::max(s.bottom, p.y);
+    Shape.m_fLeft -= fBy;
+    Shape.m_fTop -= fBy;
+    Shape.m_fRight += fBy;
+    Shape.m_fBottom += fBy;
+    return Shape;
+}
+
+CShape BoundsOf(const std::vector<CPoint>& vPoints, float fMargin)
+{
+    CShape Result{1e9f, 1e9f, -1e9f, -1e9f, nullptr};
+    for(const CPoint& p : vPoints)
+    {
+        Result.m_fLeft = std::min(Result.m_fLeft, p.m_fX);
+        Result.m_fTop = std::min(Result.m_fTop, p.m_fY);
+        Result.m_fRight = std::max(Result.m_fRight, p.m_fX);
+        Result.m_fBottom = std::max(Result.m_fBottom, p.m_fY);
     }
-    return grown(s, margin);
+    return Grown(Result, fMargin);
 }
-
 } // namespace
 
-Shape circle(float cx, float cy, float radius)
+CShape Circle(float fCx, float fCy, float fRadius)
 {
-    return {cx - radius, cy - radius, cx + radius, cy + radius,
-            [=](float x, float y) { return length(x - cx, y - cy) - radius; }};
+    return {fCx - fRadius, fCy - fRadius, fCx + fRadius, fCy + fRadius,
+            [=](float fX, float fY) { return Length(fX - fCx, fY - fCy) - fRadius; }};
 }
 
-Shape ellipse(float cx, float cy, float rx, float ry)
+CShape Ellipse(float fCx, float fCy, float fRx, float fRy)
 {
     // Scaled circle distance: exact on the axes, close enough elsewhere for the small eccentricities used.
-    float k = std::min(rx, ry);
-    return {cx - rx, cy - ry, cx + rx, cy + ry,
-            [=](float x, float y) { return (length((x - cx) / rx, (y - cy) / ry) - 1.0f) * k; }};
+    float fK = std::min(fRx, fRy);
+    return {fCx - fRx, fCy - fRy, fCx + fRx, fCy + fRy,
+            [=](float fX, float fY) { return (Length((fX - fCx) / fRx, (fY - fCy) / fRy) - 1.0f) * fK; }};
 }
 
-Shape roundRect(float left, float top, float width, float height, float radius)
+CShape RoundRect(float fLeft, float fTop, float fWidth, float fHeight, float fRadius)
 {
-    float hx = width / 2, hy = height / 2, cx = left + hx, cy = top + hy;
-    float r = std::min(radius, std::min(hx, hy));
-    return {left, top, left + width, top + height, [=](float x, float y) {
-                float qx = std::fabs(x - cx) - (hx - r), qy = std::fabs(y - cy) - (hy - r);
-                float outside = length(std::max(qx, 0.0f), std::max(qy, 0.0f));
-                return outside + std::min(std::max(qx, qy), 0.0f) - r;
+    float fHx = fWidth / 2, fHy = fHeight / 2, fCx = fLeft + fHx, fCy = fTop + fHy;
+    float fR = std::min(fRadius, std::min(fHx, fHy));
+    return {fLeft, fTop, fLeft + fWidth, fTop + fHeight,
+            [=](float fX, float fY)
+            {
+                float fQx = std::fabs(fX - fCx) - (fHx - fR), fQy = std::fabs(fY - fCy) - (fHy - fR);
+                float fOutside = Length(std::max(fQx, 0.0f), std::max(fQy, 0.0f));
+                return fOutside + std::min(std::max(fQx, fQy), 0.0f) - fR;
             }};
 }
 
-Shape capsule(Point a, Point b, float radius)
+CShape Capsule(CPoint a, CPoint b, float fRadius)
 {
-    Shape s = boundsOf({a, b}, radius);
-    s.distance = [=](float x, float y) { return segmentDistance({x, y}, a, b) - radius; };
-    return s;
+    CShape Result = BoundsOf({a, b}, fRadius);
+    Result.m_fnDistance = [=](float fX, float fY) { return SegmentDistance({fX, fY}, a, b) - fRadius; };
+    return Result;
 }
 
-Shape polygon(std::vector<Point> v)
+CShape Polygon(std::vector<CPoint> vCorners)
 {
-    Shape s = boundsOf(v, 0.0f);
-    s.distance = [v](float x, float y) {
-        float best = 1e9f;
-        bool inside = false;
-        for (std::size_t i = 0, j = v.size() - 1; i < v.size(); j = i++) {
-            best = std::min(best, segmentDistance({x, y}, v[j], v[i]));
-            bool crosses = (v[i].y > y) != (v[j].y > y);
-            if (crosses && x < (v[j].x - v[i].x) * (y - v[i].y) / (v[j].y - v[i].y) + v[i].x)
-                inside = !inside;
+    CShape Result = BoundsOf(vCorners, 0.0f);
+    Result.m_fnDistance = [vCorners = std::move(vCorners)](float fX, float fY)
+    {
+        float fBest = 1e9f;
+        bool bInside = false;
+        for(std::size_t i = 0, j = vCorners.size() - 1; i < vCorners.size(); j = i++)
+        {
+            const CPoint& a = vCorners[j];
+            const CPoint& b = vCorners[i];
+            fBest = std::min(fBest, SegmentDistance({fX, fY}, a, b));
+            bool bCrosses = (b.m_fY > fY) != (a.m_fY > fY);
+            if(bCrosses && fX < (a.m_fX - b.m_fX) * (fY - b.m_fY) / (a.m_fY - b.m_fY) + b.m_fX)
+                bInside = !bInside;
         }
-        return inside ? -best : best;
+        return bInside ? -fBest : fBest;
     };
-    return s;
+    return Result;
 }
 
-Shape polyline(std::vector<Point> pts, float width)
+CShape Polyline(std::vector<CPoint> vPoints, float fWidth)
 {
-    Shape s = boundsOf(pts, width / 2);
-    s.distance = [pts, width](float x, float y) {
-        float best = 1e9f;
-        for (std::size_t i = 1; i < pts.size(); ++i)
-            best = std::min(best, segmentDistance({x, y}, pts[i - 1], pts[i]));
-        if (pts.size() == 1)
-            best = length(x - pts[0].x, y - pts[0].y);
-        return best - width / 2;
+    CShape Result = BoundsOf(vPoints, fWidth / 2);
+    Result.m_fnDistance = [vPoints = std::move(vPoints), fWidth](float fX, float fY)
+    {
+        float fBest = 1e9f;
+        for(std::size_t i = 1; i < vPoints.size(); ++i)
+            fBest = std::min(fBest, SegmentDistance({fX, fY}, vPoints[i - 1], vPoints[i]));
+        if(vPoints.size() == 1)
+            fBest = Length(fX - vPoints[0].m_fX, fY - vPoints[0].m_fY);
+        return fBest - fWidth / 2;
     };
-    return s;
+    return Result;
 }
 
-Shape arc(float cx, float cy, float radius, float a0, float a1, float width)
+CShape Arc(float fCx, float fCy, float fRadius, float fA0, float fA1, float fWidth)
 {
-    std::vector<Point> pts;
-    int steps = std::max(4, static_cast<int>(std::fabs(a1 - a0) * radius / 2.0f));
-    for (int i = 0; i <= steps; ++i) {
-        float a = a0 + (a1 - a0) * i / steps;
-        pts.push_back({cx + std::cos(a) * radius, cy + std::sin(a) * radius});
+    std::vector<CPoint> vPoints;
+    int iSteps = std::max(4, static_cast<int>(std::fabs(fA1 - fA0) * fRadius / 2.0f));
+    for(int i = 0; i <= iSteps; ++i)
+    {
+        float fA = fA0 + (fA1 - fA0) * i / iSteps;
+        vPoints.push_back({fCx + std::cos(fA) * fRadius, fCy + std::sin(fA) * fRadius});
     }
-    return polyline(std::move(pts), width);
+    return Polyline(std::move(vPoints), fWidth);
 }
 
-Shape outline(const Shape &shape, float width)
+CShape Outline(const CShape& Shape, float fWidth)
 {
-    Shape s = grown(shape, width / 2);
-    auto d = shape.distance;
-    s.distance = [d, width](float x, float y) { return std::fabs(d(x, y)) - width / 2; };
-    return s;
+    CShape Result = Grown(Shape, fWidth / 2);
+    auto fnDistance = Shape.m_fnDistance;
+    Result.m_fnDistance = [fnDistance, fWidth](float fX, float fY)
+    { return std::fabs(fnDistance(fX, fY)) - fWidth / 2; };
+    return Result;
 }
 
-Shape inset(const Shape &shape, float amount)
+CShape Inset(const CShape& Shape, float fAmount)
 {
-    Shape s = amount < 0 ? grown(shape, -amount) : shape;
-    auto d = shape.distance;
-    s.distance = [d, amount](float x, float y) { return d(x, y) + amount; };
-    return s;
+    CShape Result = fAmount < 0 ? Grown(Shape, -fAmount) : Shape;
+    auto fnDistance = Shape.m_fnDistance;
+    Result.m_fnDistance = [fnDistance, fAmount](float fX, float fY) { return fnDistance(fX, fY) + fAmount; };
+    return Result;
 }
 
-Shape unite(const Shape &a, const Shape &b)
+CShape Unite(const CShape& a, const CShape& b)
 {
-    auto da = a.distance, db = b.distance;
-    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right),
-            std::max(a.bottom, b.bottom), [da, db](float x, float y) { return std::min(da(x, y), db(x, y)); }};
+    auto fnDistanceA = a.m_fnDistance, fnDistanceB = b.m_fnDistance;
+    return {std::min(a.m_fLeft, b.m_fLeft), std::min(a.m_fTop, b.m_fTop), std::max(a.m_fRight, b.m_fRight),
+            std::max(a.m_fBottom, b.m_fBottom), [fnDistanceA, fnDistanceB](float fX, float fY) {
+                return std::min(fnDistanceA(fX, fY), fnDistanceB(fX, fY));
+            }};
 }
 
-Shape subtract(const Shape &from, const Shape &cut)
+CShape Subtract(const CShape& From, const CShape& Cut)
 {
-    Shape s = from;
-    auto da = from.distance, db = cut.distance;
-    s.distance = [da, db](float x, float y) { return std::max(da(x, y), -db(x, y)); };
-    return s;
+    CShape Result = From;
+    auto fnDistanceA = From.m_fnDistance, fnDistanceB = Cut.m_fnDistance;
+    Result.m_fnDistance = [fnDistanceA, fnDistanceB](float fX, float fY)
+    { return std::max(fnDistanceA(fX, fY), -fnDistanceB(fX, fY)); };
+    return Result;
 }
 
-Shape intersect(const Shape &a, const Shape &b)
+CShape Intersect(const CShape& a, const CShape& b)
 {
-    auto da = a.distance, db = b.distance;
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-            std::min(a.bottom, b.bottom), [da, db](float x, float y) { return std::max(da(x, y), db(x, y)); }};
+    auto fnDistanceA = a.m_fnDistance, fnDistanceB = b.m_fnDistance;
+    return {std::max(a.m_fLeft, b.m_fLeft), std::max(a.m_fTop, b.m_fTop), std::min(a.m_fRight, b.m_fRight),
+            std::min(a.m_fBottom, b.m_fBottom), [fnDistanceA, fnDistanceB](float fX, float fY) {
+                return std::max(fnDistanceA(fX, fY), fnDistanceB(fX, fY));
+            }};
 }
 
-Mask rasterize(const Shape &shape, float softness)
+CMask Rasterize(const CShape& Shape, float fSoftness)
 {
-    int l = static_cast<int>(std::floor(shape.left - softness - 1));
-    int t = static_cast<int>(std::floor(shape.top - softness - 1));
-    int r = static_cast<int>(std::ceil(shape.right + softness + 1));
-    int b = static_cast<int>(std::ceil(shape.bottom + softness + 1));
-    Mask m(l, t, r - l, b - t);
-    for (int y = t; y < b; ++y)
-        for (int x = l; x < r; ++x) {
-            float d = shape.distance(x + 0.5f, y + 0.5f);
-            m.cell(x, y) = std::min(1.0f, std::max(0.0f, 0.5f - d / softness));
+    int iLeft = static_cast<int>(std::floor(Shape.m_fLeft - fSoftness - 1));
+    int iTop = static_cast<int>(std::floor(Shape.m_fTop - fSoftness - 1));
+    int iRight = static_cast<int>(std::ceil(Shape.m_fRight + fSoftness + 1));
+    int iBottom = static_cast<int>(std::ceil(Shape.m_fBottom + fSoftness + 1));
+    CMask Mask(iLeft, iTop, iRight - iLeft, iBottom - iTop);
+    for(int iY = iTop; iY < iBottom; ++iY)
+        for(int iX = iLeft; iX < iRight; ++iX)
+        {
+            float fD = Shape.m_fnDistance(iX + 0.5f, iY + 0.5f);
+            Mask.Cell(iX, iY) = std::min(1.0f, std::max(0.0f, 0.5f - fD / fSoftness));
         }
-    return m;
+    return Mask;
 }
 
-std::vector<Point> smoothCurve(const std::vector<Point> &p, int steps)
+std::vector<CPoint> SmoothCurve(const std::vector<CPoint>& vThrough, int iSteps)
 {
-    std::vector<Point> out;
-    auto at = [&p](int i) { return p[static_cast<std::size_t>(std::min(std::max(i, 0), static_cast<int>(p.size()) - 1))]; };
-    for (int i = 0; i + 1 < static_cast<int>(p.size()); ++i)
-        for (int s = 0; s < steps; ++s) {
-            float t = static_cast<float>(s) / steps, t2 = t * t, t3 = t2 * t;
-            Point a = at(i - 1), b = at(i), c = at(i + 1), d = at(i + 2);
-            auto blend = [&](float pa, float pb, float pc, float pd) {
-                return 0.5f * (2 * pb + (pc - pa) * t + (2 * pa - 5 * pb + 4 * pc - pd) * t2 +
-                               (3 * pb - pa - 3 * pc + pd) * t3);
+    std::vector<CPoint> vOut;
+    auto At = [&vThrough](int i)
+    { return vThrough[static_cast<std::size_t>(std::min(std::max(i, 0), static_cast<int>(vThrough.size()) - 1))]; };
+    for(int i = 0; i + 1 < static_cast<int>(vThrough.size()); ++i)
+        for(int iStep = 0; iStep < iSteps; ++iStep)
+        {
+            float fT = static_cast<float>(iStep) / iSteps, fT2 = fT * fT, fT3 = fT2 * fT;
+            CPoint a = At(i - 1), b = At(i), c = At(i + 1), d = At(i + 2);
+            auto Blend = [&](float fPa, float fPb, float fPc, float fPd)
+            {
+                return 0.5f * (2 * fPb + (fPc - fPa) * fT + (2 * fPa - 5 * fPb + 4 * fPc - fPd) * fT2 +
+                               (3 * fPb - fPa - 3 * fPc + fPd) * fT3);
             };
-            out.push_back({blend(a.x, b.x, c.x, d.x), blend(a.y, b.y, c.y, d.y)});
+            vOut.push_back({Blend(a.m_fX, b.m_fX, c.m_fX, d.m_fX), Blend(a.m_fY, b.m_fY, c.m_fY, d.m_fY)});
         }
-    out.push_back(p.back());
-    return out;
+    vOut.push_back(vThrough.back());
+    return vOut;
 }
 
-std::vector<Point> spaced(const std::vector<Point> &path, float spacing)
+std::vector<CPoint> Spaced(const std::vector<CPoint>& vPath, float fSpacing)
 {
-    std::vector<Point> out;
-    if (path.empty())
-        return out;
-    out.push_back(path.front());
-    float carried = 0.0f;
-    for (std::size_t i = 1; i < path.size(); ++i) {
-        Point a = path[i - 1], b = path[i];
-        float seg = length(b.x - a.x, b.y - a.y);
-        float pos = spacing - carried;
-        while (pos <= seg) {
-            float t = pos / seg;
-            out.push_back({a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t});
-            pos += spacing;
+    std::vector<CPoint> vOut;
+    if(vPath.empty())
+        return vOut;
+    vOut.push_back(vPath.front());
+    float fCarried = 0.0f;
+    for(std::size_t i = 1; i < vPath.size(); ++i)
+    {
+        CPoint a = vPath[i - 1], b = vPath[i];
+        float fSeg = Length(b.m_fX - a.m_fX, b.m_fY - a.m_fY);
+        float fPos = fSpacing - fCarried;
+        while(fPos <= fSeg)
+        {
+            float fT = fPos / fSeg;
+            vOut.push_back({a.m_fX + (b.m_fX - a.m_fX) * fT, a.m_fY + (b.m_fY - a.m_fY) * fT});
+            fPos += fSpacing;
         }
-        carried = seg - (pos - spacing);
+        fCarried = fSeg - (fPos - fSpacing);
     }
-    return out;
+    return vOut;
 }
 
-void fillShape(Canvas &canvas, const Shape &shape, const Paint &paint, float softness)
+void FillShape(CCanvas& Canvas, const CShape& Shape, const CPaint& fnPaint, float fSoftness)
 {
-    canvas.paint(rasterize(shape, softness), paint);
+    Canvas.Paint(Rasterize(Shape, fSoftness), fnPaint);
 }
-
 } // namespace art

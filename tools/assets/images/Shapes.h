@@ -7,41 +7,42 @@
 #include <functional>
 #include <vector>
 
-namespace art {
-
-struct Point {
-    float x = 0, y = 0;
+namespace art
+{
+struct CPoint
+{
+    float m_fX = 0, m_fY = 0;
 };
 
-struct Shape {
-    float left = 0, top = 0, right = 0, bottom = 0; // nothing of the shape lies outside
-    std::function<float(float x, float y)> distance;
+struct CShape
+{
+    float m_fLeft = 0, m_fTop = 0, m_fRight = 0, m_fBottom = 0; // nothing of the shape lies outside
+    std::function<float(float fX, float fY)> m_fnDistance;
 };
 
-Shape circle(float cx, float cy, float radius);
-Shape ellipse(float cx, float cy, float rx, float ry);
-Shape roundRect(float left, float top, float width, float height, float radius);
-Shape capsule(Point a, Point b, float radius);
-Shape polygon(std::vector<Point> corners);
-Shape polyline(std::vector<Point> points, float width); // a stroke with round joins and caps
-// An arc of the circle, from angle a0 to a1 in radians (clockwise on screen, 0 pointing right).
-Shape arc(float cx, float cy, float radius, float a0, float a1, float width);
+CShape Circle(float fCx, float fCy, float fRadius);
+CShape Ellipse(float fCx, float fCy, float fRx, float fRy);
+CShape RoundRect(float fLeft, float fTop, float fWidth, float fHeight, float fRadius);
+CShape Capsule(CPoint a, CPoint b, float fRadius);
+CShape Polygon(std::vector<CPoint> vCorners);
+CShape Polyline(std::vector<CPoint> vPoints, float fWidth); // a stroke with round joins and caps
+// An arc of the circle, from angle fA0 to fA1 in radians (clockwise on screen, 0 pointing right).
+CShape Arc(float fCx, float fCy, float fRadius, float fA0, float fA1, float fWidth);
 
-Shape outline(const Shape &shape, float width); // a band of that width centred on the edge
-Shape inset(const Shape &shape, float amount);  // grows inwards for positive amounts
-Shape unite(const Shape &a, const Shape &b);
-Shape subtract(const Shape &from, const Shape &cut);
-Shape intersect(const Shape &a, const Shape &b);
+CShape Outline(const CShape& Shape, float fWidth); // a band of that width centred on the edge
+CShape Inset(const CShape& Shape, float fAmount);  // grows inwards for positive amounts
+CShape Unite(const CShape& a, const CShape& b);
+CShape Subtract(const CShape& From, const CShape& Cut);
+CShape Intersect(const CShape& a, const CShape& b);
 
-// Coverage of the shape; softness widens the edge ramp (1 is a crisp antialiased edge).
-Mask rasterize(const Shape &shape, float softness = 1.0f);
+// Coverage of the shape; fSoftness widens the edge ramp (1 is a crisp antialiased edge).
+CMask Rasterize(const CShape& Shape, float fSoftness = 1.0f);
 
-// Points of a curve through the given points (Catmull-Rom), steps points per span.
-std::vector<Point> smoothCurve(const std::vector<Point> &through, int steps);
+// Points of a curve through the given points (Catmull-Rom), iSteps points per span.
+std::vector<CPoint> SmoothCurve(const std::vector<CPoint>& vThrough, int iSteps);
 // Points spaced evenly by arc length along a polyline.
-std::vector<Point> spaced(const std::vector<Point> &path, float spacing);
+std::vector<CPoint> Spaced(const std::vector<CPoint>& vPath, float fSpacing);
 
 // Rasterise and paint in one step.
-void fillShape(Canvas &canvas, const Shape &shape, const Paint &paint, float softness = 1.0f);
-
+void FillShape(CCanvas& Canvas, const CShape& Shape, const CPaint& fnPaint, float fSoftness = 1.0f);
 } // namespace art

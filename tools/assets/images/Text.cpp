@@ -6,166 +6,185 @@
 #include <SDL_ttf.h>
 
 #include <cmath>
+#include <cstddef>
 #include <map>
 #include <stdexcept>
 #include <utility>
 
-namespace art {
-
-namespace {
-
-// Where Debian installs the DejaVu family (package fonts-dejavu-core).
-const char *const kFontFolder = "/usr/share/fonts/truetype/dejavu/";
-
-const char *fileOf(Face face)
+namespace art
 {
-    switch (face) {
-    case Face::Bold: return "DejaVuSans-Bold.ttf";
-    case Face::Light: return "DejaVuSans-ExtraLight.ttf";
-    case Face::Oblique: return "DejaVuSans-Oblique.ttf";
-    case Face::Regular: break;
+namespace
+{
+// Where Debian installs the DejaVu family (package fonts-dejavu-core).
+const char* const FONT_FOLDER = "/usr/share/fonts/truetype/dejavu/";
+
+const char* FileOf(EFace eFace)
+{
+    switch(eFace)
+    {
+    case EFace::Bold:
+        return "DejaVuSans-Bold.ttf";
+    case EFace::Light:
+        return "DejaVuSans-ExtraLight.ttf";
+    case EFace::Oblique:
+        return "DejaVuSans-Oblique.ttf";
+    case EFace::Regular:
+        break;
     }
     return "DejaVuSans.ttf";
 }
 
-std::map<std::pair<Face, int>, TTF_Font *> &cache()
+std::map<std::pair<EFace, int>, TTF_Font*>& Cache()
 {
-    static std::map<std::pair<Face, int>, TTF_Font *> fonts;
-    return fonts;
+    static std::map<std::pair<EFace, int>, TTF_Font*> mapFonts;
+    return mapFonts;
 }
 
-TTF_Font *font(Face face, int size)
+TTF_Font* Font(EFace eFace, int iSize)
 {
-    auto key = std::make_pair(face, size);
-    auto found = cache().find(key);
-    if (found != cache().end())
-        return found->second;
-    std::string path = std::string(kFontFolder) + fileOf(face);
-    TTF_Font *f = TTF_OpenFont(path.c_str(), size);
-    if (!f)
-        throw std::runtime_error("cannot open font " + path + ": " + TTF_GetError());
-    cache()[key] = f;
-    return f;
+    auto Key = std::make_pair(eFace, iSize);
+    auto Found = Cache().find(Key);
+    if(Found != Cache().end())
+        return Found->second;
+    std::string Path = std::string(FONT_FOLDER) + FileOf(eFace);
+    TTF_Font* pFont = TTF_OpenFont(Path.c_str(), iSize);
+    if(!pFont)
+        throw std::runtime_error("cannot open font " + Path + ": " + TTF_GetError());
+    Cache()[Key] = pFont;
+    return pFont;
 }
-
 } // namespace
 
-void openFonts()
+void OpenFonts()
 {
-    if (TTF_Init() != 0)
+    if(TTF_Init() != 0)
         throw std::runtime_error(std::string("cannot start the font library: ") + TTF_GetError());
-    for (Face face : {Face::Regular, Face::Bold, Face::Light, Face::Oblique})
-        font(face, 12);
+    for(EFace eFace : {EFace::Regular, EFace::Bold, EFace::Light, EFace::Oblique})
+        Font(eFace, 12);
 }
 
-void closeFonts()
+void CloseFonts()
 {
-    for (auto &entry : cache())
-        TTF_CloseFont(entry.second);
-    cache().clear();
+    for(auto& Entry : Cache())
+        TTF_CloseFont(Entry.second);
+    Cache().clear();
     TTF_Quit();
 }
 
-Mask textMask(Face face, int size, const std::string &text, int left, int top)
+CMask TextMask(EFace eFace, int iSize, const std::string& Text, int iLeft, int iTop)
 {
-    if (text.empty())
-        return Mask(left, top, 0, 0);
-    SDL_Surface *raw = TTF_RenderUTF8_Blended(font(face, size), text.c_str(), SDL_Color{255, 255, 255, 255});
-    if (!raw)
+    if(Text.empty())
+        return CMask(iLeft, iTop, 0, 0);
+    SDL_Surface* pRaw = TTF_RenderUTF8_Blended(Font(eFace, iSize), Text.c_str(), SDL_Color{255, 255, 255, 255});
+    if(!pRaw)
         throw std::runtime_error(std::string("cannot render text: ") + TTF_GetError());
     // The font library's surface may have a padded pitch and its own layout; a known format reads safely.
-    SDL_Surface *s = SDL_ConvertSurfaceFormat(raw, SDL_PIXELFORMAT_ARGB8888, 0);
-    SDL_FreeSurface(raw);
-    if (!s)
+    SDL_Surface* pSurface = SDL_ConvertSurfaceFormat(pRaw, SDL_PIXELFORMAT_ARGB8888, 0);
+    SDL_FreeSurface(pRaw);
+    if(!pSurface)
         throw std::runtime_error(std::string("cannot convert text: ") + SDL_GetError());
-    Mask m(left, top, s->w, s->h);
-    for (int y = 0; y < s->h; ++y) {
-        const auto *row = reinterpret_cast<const Uint32 *>(static_cast<const Uint8 *>(s->pixels) + y * s->pitch);
-        for (int x = 0; x < s->w; ++x)
-            m.cell(left + x, top + y) = static_cast<float>(row[x] >> 24) / 255.0f;
+    CMask Mask(iLeft, iTop, pSurface->w, pSurface->h);
+    for(int iY = 0; iY < pSurface->h; ++iY)
+    {
+        const auto* pRow = reinterpret_cast<const Uint32*>(static_cast<const Uint8*>(pSurface->pixels) +
+                                                           static_cast<std::ptrdiff_t>(iY) * pSurface->pitch);
+        for(int iX = 0; iX < pSurface->w; ++iX)
+            Mask.Cell(iLeft + iX, iTop + iY) = static_cast<float>(pRow[iX] >> 24) / 255.0f;
     }
-    SDL_FreeSurface(s);
-    return m;
+    SDL_FreeSurface(pSurface);
+    return Mask;
 }
 
-int textWidth(Face face, int size, const std::string &text)
+int TextWidth(EFace eFace, int iSize, const std::string& Text)
 {
-    int w = 0, h = 0;
-    TTF_SizeUTF8(font(face, size), text.c_str(), &w, &h);
-    return w;
+    int iW = 0, iH = 0;
+    TTF_SizeUTF8(Font(eFace, iSize), Text.c_str(), &iW, &iH);
+    return iW;
 }
 
-int lineHeight(Face face, int size) { return TTF_FontHeight(font(face, size)); }
-
-int baseline(Face face, int size) { return TTF_FontAscent(font(face, size)); }
-
-int capTop(Face face, int size)
+int LineHeight(EFace eFace, int iSize)
 {
-    int minx, maxx, miny, maxy, advance;
-    TTF_GlyphMetrics(font(face, size), 'H', &minx, &maxx, &miny, &maxy, &advance);
-    return baseline(face, size) - maxy;
+    return TTF_FontHeight(Font(eFace, iSize));
 }
 
-float lineTopFor(Face face, int size, float capCentre)
+int Baseline(EFace eFace, int iSize)
 {
-    return capCentre - (capTop(face, size) + baseline(face, size)) / 2.0f;
+    return TTF_FontAscent(Font(eFace, iSize));
 }
 
-TextStyle plain(Face face, int size, Rgba colour)
+int CapTop(EFace eFace, int iSize)
 {
-    TextStyle s;
-    s.face = face;
-    s.size = size;
-    s.fill = solid(colour);
-    return s;
+    int iMinX, iMaxX, iMinY, iMaxY, iAdvance;
+    TTF_GlyphMetrics(Font(eFace, iSize), 'H', &iMinX, &iMaxX, &iMinY, &iMaxY, &iAdvance);
+    return Baseline(eFace, iSize) - iMaxY;
 }
 
-void drawText(Canvas &canvas, const std::string &text, float x, float y, const TextStyle &st, Align align)
+float LineTopFor(EFace eFace, int iSize, float fCapCentre)
 {
-    int w = textWidth(st.face, st.size, text);
-    float left = align == Align::Left ? x : align == Align::Centre ? x - w / 2.0f : x - w;
-    Mask letters = textMask(st.face, st.size, text, static_cast<int>(std::lround(left)), static_cast<int>(std::lround(y)));
-    Mask body = st.outline > 0.0f ? dilated(letters, st.outline) : letters;
-    if (st.glow > 0.0f)
-        canvas.paint(blurred(body, st.glow), solid(st.glowColour));
-    if (st.shadow > 0.0f)
-        canvas.paint(shifted(blurred(body, st.shadow), st.shadowDx, st.shadowDy), solid(st.shadowColour));
-    if (st.outline > 0.0f)
-        canvas.paint(body, solid(st.outlineColour));
-    canvas.paint(letters, st.fill);
+    return fCapCentre - (CapTop(eFace, iSize) + Baseline(eFace, iSize)) / 2.0f;
 }
 
-void drawTextCentredOn(Canvas &canvas, const std::string &text, float cx, float cy, const TextStyle &style)
+CTextStyle Plain(EFace eFace, int iSize, CRgba Colour)
 {
-    drawText(canvas, text, cx, lineTopFor(style.face, style.size, cy), style, Align::Centre);
+    CTextStyle Style;
+    Style.m_eFace = eFace;
+    Style.m_iSize = iSize;
+    Style.m_fnFill = Solid(Colour);
+    return Style;
 }
 
-std::vector<std::string> wrapped(Face face, int size, const std::string &text, int maxWidth)
+void DrawText(CCanvas& Canvas, const std::string& Text, float fX, float fY, const CTextStyle& Style, EAlign eAlign)
 {
-    std::vector<std::string> lines;
-    std::string line, word;
-    auto flushWord = [&]() {
-        if (word.empty())
+    int iW = TextWidth(Style.m_eFace, Style.m_iSize, Text);
+    float fLeft = eAlign == EAlign::Left ? fX : eAlign == EAlign::Centre ? fX - iW / 2.0f : fX - iW;
+    CMask Letters = TextMask(Style.m_eFace, Style.m_iSize, Text, static_cast<int>(std::lround(fLeft)),
+                             static_cast<int>(std::lround(fY)));
+    CMask Body = Style.m_fOutline > 0.0f ? Dilated(Letters, Style.m_fOutline) : Letters;
+    if(Style.m_fGlow > 0.0f)
+        Canvas.Paint(Blurred(Body, Style.m_fGlow), Solid(Style.m_GlowColour));
+    if(Style.m_fShadow > 0.0f)
+        Canvas.Paint(Shifted(Blurred(Body, Style.m_fShadow), Style.m_iShadowDx, Style.m_iShadowDy),
+                     Solid(Style.m_ShadowColour));
+    if(Style.m_fOutline > 0.0f)
+        Canvas.Paint(Body, Solid(Style.m_OutlineColour));
+    Canvas.Paint(Letters, Style.m_fnFill);
+}
+
+void DrawTextCentredOn(CCanvas& Canvas, const std::string& Text, float fCx, float fCy, const CTextStyle& Style)
+{
+    DrawText(Canvas, Text, fCx, LineTopFor(Style.m_eFace, Style.m_iSize, fCy), Style, EAlign::Centre);
+}
+
+std::vector<std::string> Wrapped(EFace eFace, int iSize, const std::string& Text, int iMaxWidth)
+{
+    std::vector<std::string> vLines;
+    std::string Line, Word;
+    auto FlushWord = [&]()
+    {
+        if(Word.empty())
             return;
-        std::string candidate = line.empty() ? word : line + " " + word;
-        if (!line.empty() && textWidth(face, size, candidate) > maxWidth) {
-            lines.push_back(line);
-            line = word;
-        } else {
-            line = candidate;
+        std::string Candidate = Line.empty() ? Word : Line + " " + Word;
+        if(!Line.empty() && TextWidth(eFace, iSize, Candidate) > iMaxWidth)
+        {
+            vLines.push_back(Line);
+            Line = Word;
         }
-        word.clear();
-    };
-    for (char c : text) {
-        if (c == ' ')
-            flushWord();
         else
-            word += c;
+        {
+            Line = Candidate;
+        }
+        Word.clear();
+    };
+    for(char cLetter : Text)
+    {
+        if(cLetter == ' ')
+            FlushWord();
+        else
+            Word += cLetter;
     }
-    flushWord();
-    if (!line.empty())
-        lines.push_back(line);
-    return lines;
+    FlushWord();
+    if(!Line.empty())
+        vLines.push_back(Line);
+    return vLines;
 }
-
 } // namespace art

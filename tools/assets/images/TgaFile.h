@@ -7,12 +7,11 @@
 #include <string>
 #include <vector>
 
-namespace art {
-
+namespace art
+{
 // The whole file: an 18-byte header, then BGRA pixels from the top row down.
-std::vector<std::uint8_t> encodeTga(const Canvas &canvas);
+std::vector<std::uint8_t> EncodeTga(const CCanvas& Canvas);
 
 // Throws std::runtime_error with the file name if the file can't be written.
-void saveTga(const Canvas &canvas, const std::string &path);
-
+void SaveTga(const CCanvas& Canvas, const std::string& Path);
 } // namespace art

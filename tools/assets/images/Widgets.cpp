@@ -9,146 +9,157 @@
 #include <algorithm>
 #include <cmath>
 
-namespace art {
-
-namespace {
-
-Shape pill(float width, float height) { return roundRect(0.5f, 0.5f, width - 1.0f, height - 1.0f, height / 2.0f - 1.0f); }
-
-void buttonBody(Canvas &c, const Shape &body, Lit lit)
+namespace art
 {
-    float h = static_cast<float>(c.height());
-    Rgba top = lit == Lit::Yes ? theme::buttonLitTop() : theme::buttonTop();
-    Rgba low = lit == Lit::Yes ? theme::buttonLitLow() : theme::buttonLow();
-    c.paint(rasterize(body), vertical(0, h, {{0.0f, top}, {1.0f, low}}));
-    // Glass sheen on the upper half.
-    Shape sheen = intersect(inset(body, 2.0f), roundRect(0, 0, static_cast<float>(c.width()), h * 0.48f, 0));
-    c.paint(rasterize(sheen), vertical(0, h * 0.5f, {{0.0f, {1, 1, 1, lit == Lit::Yes ? 0.28f : 0.14f}}, {1.0f, {1, 1, 1, 0.03f}}}));
+namespace
+{
+CShape Pill(float fWidth, float fHeight)
+{
+    return RoundRect(0.5f, 0.5f, fWidth - 1.0f, fHeight - 1.0f, fHeight / 2.0f - 1.0f);
 }
 
-void buttonGlow(Canvas &c, const Shape &body)
+void ButtonBody(CCanvas& Canvas, const CShape& Body, ELit eLit)
+{
+    float fH = static_cast<float>(Canvas.Height());
+    CRgba Top = eLit == ELit::Yes ? theme::ButtonLitTop() : theme::ButtonTop();
+    CRgba Low = eLit == ELit::Yes ? theme::ButtonLitLow() : theme::ButtonLow();
+    Canvas.Paint(Rasterize(Body), Vertical(0, fH, {{0.0f, Top}, {1.0f, Low}}));
+    // Glass sheen on the upper half.
+    CShape Sheen = Intersect(Inset(Body, 2.0f), RoundRect(0, 0, static_cast<float>(Canvas.Width()), fH * 0.48f, 0));
+    Canvas.Paint(
+        Rasterize(Sheen),
+        Vertical(0, fH * 0.5f, {{0.0f, {1, 1, 1, eLit == ELit::Yes ? 0.28f : 0.14f}}, {1.0f, {1, 1, 1, 0.03f}}}));
+}
+
+void ButtonGlow(CCanvas& Canvas, const CShape& Body)
 {
     // Light gathered inside the rim, kept within the body so that the picture's edge stays clean.
-    Mask ring = blurred(rasterize(outline(body, 2.0f)), 6.0f);
-    c.paint(multiplied(ring, rasterize(body)), solid(withAlpha(theme::gold(), 0.55f)), Blend::Add);
+    CMask Ring = Blurred(Rasterize(Outline(Body, 2.0f)), 6.0f);
+    Canvas.Paint(Multiplied(Ring, Rasterize(Body)), Solid(WithAlpha(theme::Gold(), 0.55f)), EBlend::Add);
 }
 
-void buttonRim(Canvas &c, const Shape &body, Lit lit)
+void ButtonRim(CCanvas& Canvas, const CShape& Body, ELit eLit)
 {
-    float h = static_cast<float>(c.height());
-    Rgba hi = lit == Lit::Yes ? theme::goldLight() : theme::gold();
-    Rgba lo = lit == Lit::Yes ? theme::gold() : theme::goldDeep();
-    c.paint(rasterize(outline(inset(body, 1.0f), 1.6f)), vertical(0, h, {{0.0f, hi}, {1.0f, lo}}), Blend::Over,
-            lit == Lit::Yes ? 1.0f : 0.8f);
+    float fH = static_cast<float>(Canvas.Height());
+    CRgba Hi = eLit == ELit::Yes ? theme::GoldLight() : theme::Gold();
+    CRgba Lo = eLit == ELit::Yes ? theme::Gold() : theme::GoldDeep();
+    Canvas.Paint(Rasterize(Outline(Inset(Body, 1.0f), 1.6f)), Vertical(0, fH, {{0.0f, Hi}, {1.0f, Lo}}), EBlend::Over,
+                 eLit == ELit::Yes ? 1.0f : 0.8f);
 }
 
-void buttonGems(Canvas &c, Lit lit)
+void ButtonGems(CCanvas& Canvas, ELit eLit)
 {
-    float h = static_cast<float>(c.height()), r = std::max(2.0f, h * 0.09f);
-    for (float cx : {h / 2.0f, c.width() - h / 2.0f}) {
-        Shape gem = polygon({{cx, h / 2 - r * 1.6f}, {cx + r, h / 2}, {cx, h / 2 + r * 1.6f}, {cx - r, h / 2}});
-        Rgba colour = lit == Lit::Yes ? theme::goldLight() : withAlpha(theme::gold(), 0.55f);
-        c.paint(rasterize(gem), solid(colour));
+    float fH = static_cast<float>(Canvas.Height()), fR = std::max(2.0f, fH * 0.09f);
+    for(float fCx : {fH / 2.0f, Canvas.Width() - fH / 2.0f})
+    {
+        CShape Gem =
+            Polygon({{fCx, fH / 2 - fR * 1.6f}, {fCx + fR, fH / 2}, {fCx, fH / 2 + fR * 1.6f}, {fCx - fR, fH / 2}});
+        CRgba Colour = eLit == ELit::Yes ? theme::GoldLight() : WithAlpha(theme::Gold(), 0.55f);
+        Canvas.Paint(Rasterize(Gem), Solid(Colour));
     }
 }
-
 } // namespace
 
-Canvas button(int width, int height, const std::string &label, Lit lit, int labelSize)
+CCanvas Button(int iWidth, int iHeight, const std::string& Label, ELit eLit, int iLabelSize)
 {
-    Canvas c(width, height);
-    Shape body = pill(static_cast<float>(width), static_cast<float>(height));
-    buttonBody(c, body, lit);
-    if (lit == Lit::Yes)
-        buttonGlow(c, body);
-    buttonRim(c, body, lit);
-    if (width > 3 * height)
-        buttonGems(c, lit);
+    CCanvas Canvas(iWidth, iHeight);
+    CShape Body = Pill(static_cast<float>(iWidth), static_cast<float>(iHeight));
+    ButtonBody(Canvas, Body, eLit);
+    if(eLit == ELit::Yes)
+        ButtonGlow(Canvas, Body);
+    ButtonRim(Canvas, Body, eLit);
+    if(iWidth > 3 * iHeight)
+        ButtonGems(Canvas, eLit);
 
-    TextStyle st = plain(Face::Bold, labelSize, lit == Lit::Yes ? Rgba{1, 1, 1, 1} : theme::cream());
-    st.shadow = 1.5f;
-    st.shadowDy = 1;
-    if (lit == Lit::Yes) {
-        st.glow = 5.0f;
-        st.glowColour = withAlpha(theme::gold(), 0.8f);
+    CTextStyle Style = Plain(EFace::Bold, iLabelSize, eLit == ELit::Yes ? CRgba{1, 1, 1, 1} : theme::Cream());
+    Style.m_fShadow = 1.5f;
+    Style.m_iShadowDy = 1;
+    if(eLit == ELit::Yes)
+    {
+        Style.m_fGlow = 5.0f;
+        Style.m_GlowColour = WithAlpha(theme::Gold(), 0.8f);
     }
-    drawTextCentredOn(c, label, width / 2.0f, height / 2.0f, st);
-    return c;
+    DrawTextCentredOn(Canvas, Label, iWidth / 2.0f, iHeight / 2.0f, Style);
+    return Canvas;
 }
 
-void paperPanel(Canvas &canvas, float left, float top, float width, float height)
+void PaperPanel(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fHeight)
 {
-    Shape body = roundRect(left, top, width, height, 6.0f);
-    canvas.paint(shifted(blurred(rasterize(body), 8.0f), 0, 4), solid({0, 0, 0, 0.55f}));
-    canvas.paint(rasterize(body), vertical(top, top + height, {{0.0f, theme::paper()}, {1.0f, theme::paperShade()}}));
-    canvas.paint(rasterize(outline(inset(body, 0.5f), 1.2f)), solid(theme::paperEdge()));
-    canvas.paint(rasterize(outline(inset(body, 3.5f), 1.0f)), solid(withAlpha(theme::paperEdge(), 0.35f)));
+    CShape Body = RoundRect(fLeft, fTop, fWidth, fHeight, 6.0f);
+    Canvas.Paint(Shifted(Blurred(Rasterize(Body), 8.0f), 0, 4), Solid({0, 0, 0, 0.55f}));
+    Canvas.Paint(Rasterize(Body),
+                 Vertical(fTop, fTop + fHeight, {{0.0f, theme::Paper()}, {1.0f, theme::PaperShade()}}));
+    Canvas.Paint(Rasterize(Outline(Inset(Body, 0.5f), 1.2f)), Solid(theme::PaperEdge()));
+    Canvas.Paint(Rasterize(Outline(Inset(Body, 3.5f), 1.0f)), Solid(WithAlpha(theme::PaperEdge(), 0.35f)));
 }
 
-void paperField(Canvas &canvas, float left, float top, float width, float height)
+void PaperField(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fHeight)
 {
-    Shape body = roundRect(left, top, width, height, 4.0f);
-    canvas.paint(rasterize(body), solid(theme::paper()));
+    CShape Body = RoundRect(fLeft, fTop, fWidth, fHeight, 4.0f);
+    Canvas.Paint(Rasterize(Body), Solid(theme::Paper()));
     // Shade cast by the upper edge makes the field read as sunken.
-    Mask inner = multiplied(shifted(blurred(rasterize(outline(body, 2.0f)), 4.0f), 0, 2), rasterize(body));
-    canvas.paint(inner, solid({0.25f, 0.2f, 0.1f, 0.5f}));
-    canvas.paint(rasterize(outline(inset(body, 0.5f), 1.4f)), solid(theme::gold()));
+    CMask Inner = Multiplied(Shifted(Blurred(Rasterize(Outline(Body, 2.0f)), 4.0f), 0, 2), Rasterize(Body));
+    Canvas.Paint(Inner, Solid({0.25f, 0.2f, 0.1f, 0.5f}));
+    Canvas.Paint(Rasterize(Outline(Inset(Body, 0.5f), 1.4f)), Solid(theme::Gold()));
 }
 
-void glassPanel(Canvas &canvas, float left, float top, float width, float height, float opacity)
+void GlassPanel(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fHeight, float fOpacity)
 {
-    Shape body = roundRect(left, top, width, height, 10.0f);
-    canvas.paint(shifted(blurred(rasterize(body), 10.0f), 0, 5), solid({0, 0, 0, 0.5f}), Blend::Over, opacity);
-    canvas.paint(rasterize(body), vertical(top, top + height, {{0.0f, hex(0x131c44, 0.78f)}, {1.0f, hex(0x080c22, 0.82f)}}),
-                 Blend::Over, opacity);
-    canvas.paint(rasterize(outline(inset(body, 0.5f), 1.2f)), solid(withAlpha(theme::gold(), 0.55f)), Blend::Over,
-                 opacity);
+    CShape Body = RoundRect(fLeft, fTop, fWidth, fHeight, 10.0f);
+    Canvas.Paint(Shifted(Blurred(Rasterize(Body), 10.0f), 0, 5), Solid({0, 0, 0, 0.5f}), EBlend::Over, fOpacity);
+    Canvas.Paint(Rasterize(Body),
+                 Vertical(fTop, fTop + fHeight, {{0.0f, Hex(0x131c44, 0.78f)}, {1.0f, Hex(0x080c22, 0.82f)}}),
+                 EBlend::Over, fOpacity);
+    Canvas.Paint(Rasterize(Outline(Inset(Body, 0.5f), 1.2f)), Solid(WithAlpha(theme::Gold(), 0.55f)), EBlend::Over,
+                 fOpacity);
 }
 
-void caption(Canvas &canvas, const std::string &text, float x, float y)
+void Caption(CCanvas& Canvas, const std::string& Text, float fX, float fY)
 {
-    TextStyle st = plain(Face::Bold, theme::kHeadSize, theme::gold());
-    st.shadow = 1.5f;
-    st.shadowDy = 1;
-    drawText(canvas, text, x, y, st);
+    CTextStyle Style = Plain(EFace::Bold, theme::HEAD_SIZE, theme::Gold());
+    Style.m_fShadow = 1.5f;
+    Style.m_iShadowDy = 1;
+    DrawText(Canvas, Text, fX, fY, Style);
 }
 
-void screenTitle(Canvas &canvas, const std::string &text, float x, float y, int size, bool centred)
+void ScreenTitle(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iSize, bool bCentred)
 {
-    float h = static_cast<float>(lineHeight(Face::Bold, size));
-    float capY = y + capTop(Face::Bold, size), baseY = y + baseline(Face::Bold, size);
-    TextStyle st;
-    st.face = Face::Bold;
-    st.size = size;
-    st.fill = vertical(capY, baseY, {{0.0f, theme::goldLight()}, {0.55f, theme::gold()}, {1.0f, hex(0xc4862c)}});
-    st.outline = std::max(1.0f, size / 28.0f);
-    st.outlineColour = hex(0x2a1a08, 0.9f);
-    st.shadow = size / 8.0f;
-    st.shadowDy = static_cast<int>(h / 14.0f) + 1;
-    st.glow = size / 3.0f;
-    st.glowColour = withAlpha(theme::gold(), 0.22f);
-    drawText(canvas, text, x, y, st, centred ? Align::Centre : Align::Left);
+    float fH = static_cast<float>(LineHeight(EFace::Bold, iSize));
+    float fCapY = fY + CapTop(EFace::Bold, iSize), fBaseY = fY + Baseline(EFace::Bold, iSize);
+    CTextStyle Style;
+    Style.m_eFace = EFace::Bold;
+    Style.m_iSize = iSize;
+    Style.m_fnFill =
+        Vertical(fCapY, fBaseY, {{0.0f, theme::GoldLight()}, {0.55f, theme::Gold()}, {1.0f, Hex(0xc4862c)}});
+    Style.m_fOutline = std::max(1.0f, iSize / 28.0f);
+    Style.m_OutlineColour = Hex(0x2a1a08, 0.9f);
+    Style.m_fShadow = iSize / 8.0f;
+    Style.m_iShadowDy = static_cast<int>(fH / 14.0f) + 1;
+    Style.m_fGlow = iSize / 3.0f;
+    Style.m_GlowColour = WithAlpha(theme::Gold(), 0.22f);
+    DrawText(Canvas, Text, fX, fY, Style, bCentred ? EAlign::Centre : EAlign::Left);
 }
 
-void rule(Canvas &canvas, float left, float right, float y, float opacity)
+void Rule(CCanvas& Canvas, float fLeft, float fRight, float fY, float fOpacity)
 {
-    Rgba clear = withAlpha(theme::gold(), 0.0f);
-    canvas.paint(rasterize(roundRect(left, y - 0.6f, right - left, 1.2f, 0.6f)),
-                 linear(left, 0, right, 0, {{0.0f, clear}, {0.2f, theme::gold()}, {0.8f, theme::gold()}, {1.0f, clear}}),
-                 Blend::Over, opacity);
+    CRgba Clear = WithAlpha(theme::Gold(), 0.0f);
+    Canvas.Paint(
+        Rasterize(RoundRect(fLeft, fY - 0.6f, fRight - fLeft, 1.2f, 0.6f)),
+        Linear(fLeft, 0, fRight, 0, {{0.0f, Clear}, {0.2f, theme::Gold()}, {0.8f, theme::Gold()}, {1.0f, Clear}}),
+        EBlend::Over, fOpacity);
 }
 
-float paragraph(Canvas &canvas, const std::string &text, float x, float y, int width, int size, Rgba colour)
+float Paragraph(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iWidth, int iSize, CRgba Colour)
 {
-    TextStyle st = plain(Face::Regular, size, colour);
-    st.shadow = 1.5f;
-    st.shadowDy = 1;
-    float step = std::round(lineHeight(Face::Regular, size) * 1.08f);
-    for (const std::string &line : wrapped(Face::Regular, size, text, width)) {
-        drawText(canvas, line, x, y, st);
-        y += step;
+    CTextStyle Style = Plain(EFace::Regular, iSize, Colour);
+    Style.m_fShadow = 1.5f;
+    Style.m_iShadowDy = 1;
+    float fStep = std::round(LineHeight(EFace::Regular, iSize) * 1.08f);
+    for(const std::string& Line : Wrapped(EFace::Regular, iSize, Text, iWidth))
+    {
+        DrawText(Canvas, Line, fX, fY, Style);
+        fY += fStep;
     }
-    return y;
+    return fY;
 }
-
 } // namespace art

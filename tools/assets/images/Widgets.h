@@ -6,28 +6,31 @@
 
 #include <string>
 
-namespace art {
+namespace art
+{
+enum class ELit
+{
+    No,
+    Yes
+};
 
-enum class Lit { No, Yes };
-
-// A pill-shaped button that fills the whole picture; its label is centred. Lit is the mouse-over picture:
+// A pill-shaped button that fills the whole picture; its label is centred. ELit::Yes is the mouse-over picture:
 // brighter body, gold rim and a glow round the label.
-Canvas button(int width, int height, const std::string &label, Lit lit, int labelSize);
+CCanvas Button(int iWidth, int iHeight, const std::string& Label, ELit eLit, int iLabelSize);
 
 // Cream paper with a soft shadow: the game writes black text on it.
-void paperPanel(Canvas &canvas, float left, float top, float width, float height);
+void PaperPanel(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fHeight);
 // A sunken paper field for typed text.
-void paperField(Canvas &canvas, float left, float top, float width, float height);
+void PaperField(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fHeight);
 // Dark translucent glass with a thin rim: the game writes white and teal text on it.
-void glassPanel(Canvas &canvas, float left, float top, float width, float height, float opacity = 1.0f);
+void GlassPanel(CCanvas& Canvas, float fLeft, float fTop, float fWidth, float fHeight, float fOpacity = 1.0f);
 
-// Small gold capitals over a panel, left edge at x, top of the line box at y.
-void caption(Canvas &canvas, const std::string &text, float x, float y);
-// A screen's title: large gold letters; x is the left edge, or the centre when centred is set.
-void screenTitle(Canvas &canvas, const std::string &text, float x, float y, int size, bool centred = false);
+// Small gold capitals over a panel, left edge at fX, top of the line box at fY.
+void Caption(CCanvas& Canvas, const std::string& Text, float fX, float fY);
+// A screen's title: large gold letters; fX is the left edge, or the centre when bCentred is set.
+void ScreenTitle(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iSize, bool bCentred = false);
 // A thin gold line that fades out at both ends.
-void rule(Canvas &canvas, float left, float right, float y, float opacity = 0.6f);
+void Rule(CCanvas& Canvas, float fLeft, float fRight, float fY, float fOpacity = 0.6f);
 // Running text in the theme's light colour, wrapped to the width; returns the y below the last line.
-float paragraph(Canvas &canvas, const std::string &text, float x, float y, int width, int size, Rgba colour);
-
+float Paragraph(CCanvas& Canvas, const std::string& Text, float fX, float fY, int iWidth, int iSize, CRgba Colour);
 } // namespace art
