@@ -1,4 +1,5 @@
 // Draws a level from above beside the first frame a player sees, or a sheet of many levels drawn so.
+#include "app/Game.h"
 #include "common/NumberParse.h"
 #include "gfx/GraphicsEngine.h"
 #include "level/LevelCommands.h"
@@ -8,7 +9,6 @@
 #include "platform/interfaces/ErrorBox.h"
 #include "shot/FrameGrab.h"
 #include "tracks/Level.h"
-#include "app/Game.h"
 
 #include "PngFile.h"
 #include "Text.h"
@@ -147,9 +147,9 @@ int Draw(const CPreviewOptions& Options)
         return FailLevelTool(Reason);
     art::OpenFonts();
     std::vector<CMapMark> vMarks;
-    const art::CCanvas Picture = Options.m_vLevels.size() == 1
-                                    ? DrawPreview(Grab, Options.m_vLevels[0], static_cast<int>(Options.m_uiSize), vMarks)
-                                    : DrawSheet(Grab, Options);
+    const art::CCanvas Picture = Options.m_vLevels.size() == 1 ? DrawPreview(Grab, Options.m_vLevels[0],
+                                                                             static_cast<int>(Options.m_uiSize), vMarks)
+                                                               : DrawSheet(Grab, Options);
     art::SavePng(Picture, Options.m_OutFile);
     art::CloseFonts();
     if(Options.m_bMarks)

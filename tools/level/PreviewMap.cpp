@@ -10,8 +10,8 @@
 
 namespace
 {
-constexpr float MARGIN = 0.09f;          // of the picture, all round
-constexpr float LOW_BRIGHTNESS = 0.45f;  // of a track at the lowest height of the level
+constexpr float MARGIN = 0.09f;         // of the picture, all round
+constexpr float LOW_BRIGHTNESS = 0.45f; // of a track at the lowest height of the level
 constexpr int ARROWS_PER_TRACK = 6;
 const uint32_t TRACK_COLOURS[] = {0xff6b6b, 0x4dabf7, 0xffd43b, 0x69db7c, 0xda77f2, 0xff922b, 0x3bc9db, 0xf783ac};
 

@@ -33,14 +33,12 @@ void Haze(CCanvas& Canvas, const CHazeLook& Look)
 {
     CNoise Noise(Look.m_uiSeed);
     CMask All = FullMask(Canvas.Width(), Canvas.Height());
-    Canvas.Paint(All,
-                 [&](float fX, float fY)
-                 {
-                     float fN = Noise.Fractal(fX, fY, Look.m_fScale, 5);
-                     float fWisp = std::max(0.0f, (fN - Look.m_fThreshold) / (1.0f - Look.m_fThreshold));
-                     return WithAlpha(Look.m_Colour, std::min(1.0f, fWisp * 1.6f) * Look.m_fStrength *
-                                                         BandFade(fY, Look.m_fTop, Look.m_fBottom));
-                 });
+    Canvas.Paint(All, [&](float fX, float fY) {
+        float fN = Noise.Fractal(fX, fY, Look.m_fScale, 5);
+        float fWisp = std::max(0.0f, (fN - Look.m_fThreshold) / (1.0f - Look.m_fThreshold));
+        return WithAlpha(Look.m_Colour,
+                         std::min(1.0f, fWisp * 1.6f) * Look.m_fStrength * BandFade(fY, Look.m_fTop, Look.m_fBottom));
+    });
 }
 
 void Stars(CCanvas& Canvas, std::uint64_t ulSeed, int iCount, float fTop, float fBottom, float fBrightness)

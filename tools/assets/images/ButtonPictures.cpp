@@ -36,9 +36,9 @@ CPictures ButtonPictures()
         for(ELit eLit : {ELit::No, ELit::Yes})
         {
             std::string File = std::string(Look.m_pName) + (eLit == ELit::Yes ? "2.png" : "1.png");
-            vOut.push_back(
-                InMenus(File, [Look, eLit]
-                        { return Button(Look.m_iWidth, Look.m_iHeight, Look.m_pLabel, eLit, Look.m_iLabelSize); }));
+            vOut.push_back(InMenus(File, [Look, eLit] {
+                return Button(Look.m_iWidth, Look.m_iHeight, Look.m_pLabel, eLit, Look.m_iLabelSize);
+            }));
         }
     return vOut;
 }

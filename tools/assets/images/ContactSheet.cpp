@@ -25,12 +25,10 @@ void Checks(CCanvas& Canvas, int iLeft, int iTop, int iWidth, int iHeight)
 {
     CMask Area(iLeft, iTop, iWidth, iHeight);
     std::fill(Area.m_vCover.begin(), Area.m_vCover.end(), 1.0f);
-    Canvas.Paint(Area,
-                 [](float fX, float fY)
-                 {
-                     bool bDark = ((static_cast<int>(fX) / 8) + (static_cast<int>(fY) / 8)) % 2 == 0;
-                     return bDark ? Hex(0x2a2d3a) : Hex(0x3a3e4e);
-                 });
+    Canvas.Paint(Area, [](float fX, float fY) {
+        bool bDark = ((static_cast<int>(fX) / 8) + (static_cast<int>(fY) / 8)) % 2 == 0;
+        return bDark ? Hex(0x2a2d3a) : Hex(0x3a3e4e);
+    });
 }
 
 std::string FileName(const std::string& Path)

@@ -102,14 +102,10 @@ CCanvas Face(int iMood)
 {
     switch(iMood)
     {
-    case 0:
-        return Calm();
-    case 1:
-        return Watchful();
-    case 2:
-        return Worried();
-    default:
-        return Panic();
+    case 0: return Calm();
+    case 1: return Watchful();
+    case 2: return Worried();
+    default: return Panic();
     }
 }
 

@@ -25,8 +25,9 @@ CRgba Sample(const CRamp& vRamp, float fT)
 CPaint Linear(float fX0, float fY0, float fX1, float fY1, CRamp vRamp)
 {
     float fDx = fX1 - fX0, fDy = fY1 - fY0, fLen2 = fDx * fDx + fDy * fDy;
-    return [=, vRamp = std::move(vRamp)](float fX, float fY)
-    { return Sample(vRamp, ((fX - fX0) * fDx + (fY - fY0) * fDy) / fLen2); };
+    return [=, vRamp = std::move(vRamp)](float fX, float fY) {
+        return Sample(vRamp, ((fX - fX0) * fDx + (fY - fY0) * fDy) / fLen2);
+    };
 }
 
 CPaint Vertical(float fTop, float fBottom, CRamp vRamp)
@@ -41,8 +42,7 @@ CPaint Radial(float fCx, float fCy, float fRadius, CRamp vRamp)
 
 CPaint Oval(float fCx, float fCy, float fRx, float fRy, CRamp vRamp)
 {
-    return [=, vRamp = std::move(vRamp)](float fX, float fY)
-    {
+    return [=, vRamp = std::move(vRamp)](float fX, float fY) {
         float fU = (fX - fCx) / fRx, fV = (fY - fCy) / fRy;
         return Sample(vRamp, std::sqrt(fU * fU + fV * fV));
     };

@@ -43,8 +43,7 @@ void HudGlass(CCanvas& Canvas)
 {
     float fW = static_cast<float>(Canvas.Width()), fH = static_cast<float>(Canvas.Height());
     CShape Body = RoundRect(-20, 0.5f, fW + 19.5f, fH - 1, 12);
-    CPaint fnFadeIn = [fH](float fX, float fY)
-    {
+    CPaint fnFadeIn = [fH](float fX, float fY) {
         float fEdge = std::min(1.0f, fX / 26.0f);
         CRgba Tone = Mix(Hex(0x131c44), Hex(0x080c22), fY / fH);
         return WithAlpha(Tone, 0.72f * (0.35f + 0.65f * fEdge));

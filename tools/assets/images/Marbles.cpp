@@ -17,8 +17,7 @@ constexpr float LIGHT_X = -0.48f, LIGHT_Y = -0.62f, LIGHT_Z = 0.62f;
 
 CPaint SphereShade(float fCx, float fCy, float fRadius, CRgba Base)
 {
-    return [=](float fX, float fY)
-    {
+    return [=](float fX, float fY) {
         float fNx = (fX - fCx) / fRadius, fNy = (fY - fCy) / fRadius;
         float fNz = std::sqrt(std::max(0.0f, 1.0f - fNx * fNx - fNy * fNy));
         float fDiffuse = std::max(0.0f, fNx * LIGHT_X + fNy * LIGHT_Y + fNz * LIGHT_Z);

@@ -54,8 +54,7 @@ CMask BelowRidge(int iWidth, int iHeight, const std::function<float(float)>& fnR
 std::function<float(float)> RollingRidge(std::uint32_t uiSeed, float fBase, float fAmplitude, float fFeatureWidth)
 {
     CNoise Noise(uiSeed);
-    return [Noise, fBase, fAmplitude, fFeatureWidth](float fX)
-    {
+    return [Noise, fBase, fAmplitude, fFeatureWidth](float fX) {
         float fN = Noise.Fractal(fX, 0.5f, fFeatureWidth, 4);
         return fBase - (fN - 0.5f) * 2.0f * fAmplitude;
     };
@@ -83,12 +82,10 @@ void Moon(CCanvas& Canvas, float fCx, float fCy, float fRadius, CRgba Tint, floa
                  Radial(fCx - fRadius * 0.3f, fCy - fRadius * 0.3f, fRadius * 1.5f,
                         {{0.0f, Tint}, {1.0f, Scaled(Tint, 0.75f)}}));
     CNoise Marks(7);
-    Canvas.Paint(Rasterize(Circle(fCx, fCy, fRadius)),
-                 [&Marks, Tint](float fX, float fY)
-                 {
-                     float fN = Marks.Fractal(fX, fY, 9.0f, 3);
-                     return WithAlpha(Scaled(Tint, 0.6f), std::max(0.0f, fN - 0.5f) * 0.9f);
-                 });
+    Canvas.Paint(Rasterize(Circle(fCx, fCy, fRadius)), [&Marks, Tint](float fX, float fY) {
+        float fN = Marks.Fractal(fX, fY, 9.0f, 3);
+        return WithAlpha(Scaled(Tint, 0.6f), std::max(0.0f, fN - 0.5f) * 0.9f);
+    });
 }
 
 void WaterGlints(CCanvas& Canvas, std::uint64_t ulSeed, float fX, float fHorizon, float fWidth, CRgba Tint)

@@ -63,9 +63,7 @@ CShape RoundRect(float fLeft, float fTop, float fWidth, float fHeight, float fRa
 {
     float fHx = fWidth / 2, fHy = fHeight / 2, fCx = fLeft + fHx, fCy = fTop + fHy;
     float fR = std::min(fRadius, std::min(fHx, fHy));
-    return {fLeft, fTop, fLeft + fWidth, fTop + fHeight,
-            [=](float fX, float fY)
-            {
+    return {fLeft, fTop, fLeft + fWidth, fTop + fHeight, [=](float fX, float fY) {
                 float fQx = std::fabs(fX - fCx) - (fHx - fR), fQy = std::fabs(fY - fCy) - (fHy - fR);
                 float fOutside = Length(std::max(fQx, 0.0f), std::max(fQy, 0.0f));
                 return fOutside + std::min(std::max(fQx, fQy), 0.0f) - fR;
@@ -82,8 +80,7 @@ CShape Capsule(CPoint a, CPoint b, float fRadius)
 CShape Polygon(std::vector<CPoint> vCorners)
 {
     CShape Result = BoundsOf(vCorners, 0.0f);
-    Result.m_fnDistance = [vCorners = std::move(vCorners)](float fX, float fY)
-    {
+    Result.m_fnDistance = [vCorners = std::move(vCorners)](float fX, float fY) {
         float fBest = 1e9f;
         bool bInside = false;
         for(std::size_t i = 0, j = vCorners.size() - 1; i < vCorners.size(); j = i++)
@@ -103,8 +100,7 @@ CShape Polygon(std::vector<CPoint> vCorners)
 CShape Polyline(std::vector<CPoint> vPoints, float fWidth)
 {
     CShape Result = BoundsOf(vPoints, fWidth / 2);
-    Result.m_fnDistance = [vPoints = std::move(vPoints), fWidth](float fX, float fY)
-    {
+    Result.m_fnDistance = [vPoints = std::move(vPoints), fWidth](float fX, float fY) {
         float fBest = 1e9f;
         for(std::size_t i = 1; i < vPoints.size(); ++i)
             fBest = std::min(fBest, SegmentDistance({fX, fY}, vPoints[i - 1], vPoints[i]));
@@ -131,8 +127,9 @@ CShape Outline(const CShape& Shape, float fWidth)
 {
     CShape Result = Grown(Shape, fWidth / 2);
     auto fnDistance = Shape.m_fnDistance;
-    Result.m_fnDistance = [fnDistance, fWidth](float fX, float fY)
-    { return std::fabs(fnDistance(fX, fY)) - fWidth / 2; };
+    Result.m_fnDistance = [fnDistance, fWidth](float fX, float fY) {
+        return std::fabs(fnDistance(fX, fY)) - fWidth / 2;
+    };
     return Result;
 }
 
@@ -157,8 +154,9 @@ CShape Subtract(const CShape& From, const CShape& Cut)
 {
     CShape Result = From;
     auto fnDistanceA = From.m_fnDistance, fnDistanceB = Cut.m_fnDistance;
-    Result.m_fnDistance = [fnDistanceA, fnDistanceB](float fX, float fY)
-    { return std::max(fnDistanceA(fX, fY), -fnDistanceB(fX, fY)); };
+    Result.m_fnDistance = [fnDistanceA, fnDistanceB](float fX, float fY) {
+        return std::max(fnDistanceA(fX, fY), -fnDistanceB(fX, fY));
+    };
     return Result;
 }
 
@@ -190,15 +188,15 @@ CMask Rasterize(const CShape& Shape, float fSoftness)
 std::vector<CPoint> SmoothCurve(const std::vector<CPoint>& vThrough, int iSteps)
 {
     std::vector<CPoint> vOut;
-    auto At = [&vThrough](int i)
-    { return vThrough[static_cast<std::size_t>(std::min(std::max(i, 0), static_cast<int>(vThrough.size()) - 1))]; };
+    auto At = [&vThrough](int i) {
+        return vThrough[static_cast<std::size_t>(std::min(std::max(i, 0), static_cast<int>(vThrough.size()) - 1))];
+    };
     for(int i = 0; i + 1 < static_cast<int>(vThrough.size()); ++i)
         for(int iStep = 0; iStep < iSteps; ++iStep)
         {
             float fT = static_cast<float>(iStep) / iSteps, fT2 = fT * fT, fT3 = fT2 * fT;
             CPoint a = At(i - 1), b = At(i), c = At(i + 1), d = At(i + 2);
-            auto Blend = [&](float fPa, float fPb, float fPc, float fPd)
-            {
+            auto Blend = [&](float fPa, float fPb, float fPc, float fPd) {
                 return 0.5f * (2 * fPb + (fPc - fPa) * fT + (2 * fPa - 5 * fPb + 4 * fPc - fPd) * fT2 +
                                (3 * fPb - fPa - 3 * fPc + fPd) * fT3);
             };

@@ -44,18 +44,10 @@ CCanvas ArrowButton(EWay eWay, bool bLit)
     std::vector<CPoint> vTri;
     switch(eWay)
     {
-    case EWay::Up:
-        vTri = {{8, 4.2f}, {11.8f, 10.4f}, {4.2f, 10.4f}};
-        break;
-    case EWay::Down:
-        vTri = {{8, 11.8f}, {4.2f, 5.6f}, {11.8f, 5.6f}};
-        break;
-    case EWay::Left:
-        vTri = {{4.2f, 8}, {10.4f, 4.2f}, {10.4f, 11.8f}};
-        break;
-    case EWay::Right:
-        vTri = {{11.8f, 8}, {5.6f, 11.8f}, {5.6f, 4.2f}};
-        break;
+    case EWay::Up: vTri = {{8, 4.2f}, {11.8f, 10.4f}, {4.2f, 10.4f}}; break;
+    case EWay::Down: vTri = {{8, 11.8f}, {4.2f, 5.6f}, {11.8f, 5.6f}}; break;
+    case EWay::Left: vTri = {{4.2f, 8}, {10.4f, 4.2f}, {10.4f, 11.8f}}; break;
+    case EWay::Right: vTri = {{11.8f, 8}, {5.6f, 11.8f}, {5.6f, 4.2f}}; break;
     }
     Canvas.Paint(Rasterize(Polygon(vTri)), Solid(bLit ? CRgba{1, 1, 1, 1} : theme::Cream()));
     return Canvas;

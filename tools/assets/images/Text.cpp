@@ -22,14 +22,10 @@ const char* FileOf(EFace eFace)
 {
     switch(eFace)
     {
-    case EFace::Bold:
-        return "DejaVuSans-Bold.ttf";
-    case EFace::Light:
-        return "DejaVuSans-ExtraLight.ttf";
-    case EFace::Oblique:
-        return "DejaVuSans-Oblique.ttf";
-    case EFace::Regular:
-        break;
+    case EFace::Bold: return "DejaVuSans-Bold.ttf";
+    case EFace::Light: return "DejaVuSans-ExtraLight.ttf";
+    case EFace::Oblique: return "DejaVuSans-Oblique.ttf";
+    case EFace::Regular: break;
     }
     return "DejaVuSans.ttf";
 }
@@ -159,8 +155,7 @@ std::vector<std::string> Wrapped(EFace eFace, int iSize, const std::string& Text
 {
     std::vector<std::string> vLines;
     std::string Line, Word;
-    auto FlushWord = [&]()
-    {
+    auto FlushWord = [&]() {
         if(Word.empty())
             return;
         std::string Candidate = Line.empty() ? Word : Line + " " + Word;
