@@ -40,7 +40,7 @@ std::string Lines(const std::string& Text, const std::string& Start)
 }
 } // namespace
 
-TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsAndManual)
+TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsAndManualAndUninstallsCleanly)
 {
     if(Sanitized())
         GTEST_SKIP() << "the optimised build is the one that is installed";
@@ -82,6 +82,14 @@ TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsA
     Game.Key("Escape");
     EXPECT_EQ(Game.WaitForExit(10), 0) << Game.Log();
     EXPECT_FALSE(Has(Game.Log(), "ERROR")) << Game.Log();
+
+    // Uninstalling takes every file and the game's own folders, and leaves the folders others share.
+    const std::string Stage = std::filesystem::path(Root.Path()).parent_path().string();
+    const CCommandResult Uninstall = RunCommand("DESTDIR=" + Stage + " cmake --build " + BUILD + " --target uninstall");
+    ASSERT_EQ(Uninstall.m_iExitCode, 0) << Uninstall.m_Output;
+    EXPECT_EQ(RunCommand("find " + Prefix + " ! -type d").m_Output, "");
+    EXPECT_FALSE(std::filesystem::exists(Prefix + "/share/trelvane"));
+    EXPECT_TRUE(std::filesystem::exists(Prefix + "/share/applications"));
 }
 
 TEST(Install, AGameWithoutDataSaysSoOnceAndEnds)

@@ -1,0 +1,27 @@
+# Removes what the last `cmake --install` of this build folder wrote, as its manifest lists it, and then the
+# game's own folders (share/trelvane and share/doc/trelvane with everything below) once they are empty.
+# Folders that other programs share, like share/applications, stay. DESTDIR works as it does for the install.
+set(MANIFEST "${CMAKE_CURRENT_BINARY_DIR}/install_manifest.txt")
+if(NOT EXISTS "${MANIFEST}")
+  message(FATAL_ERROR "Nothing to uninstall: ${MANIFEST} is missing (install first).")
+endif()
+file(STRINGS "${MANIFEST}" INSTALLED)
+set(FOLDERS "")
+foreach(LISTED IN LISTS INSTALLED)
+  set(FILE "$ENV{DESTDIR}${LISTED}")
+  if(EXISTS "${FILE}" OR IS_SYMLINK "${FILE}")
+    message(STATUS "Removing ${FILE}")
+    file(REMOVE "${FILE}")
+  endif()
+  get_filename_component(FOLDER "${FILE}" DIRECTORY)
+  while(FOLDER MATCHES "/trelvane(/|$)")
+    list(APPEND FOLDERS "${FOLDER}")
+    get_filename_component(FOLDER "${FOLDER}" DIRECTORY)
+  endwhile()
+endforeach()
+# Deepest first, so that a folder is empty by the time it is looked at; rmdir removes only empty ones.
+list(REMOVE_DUPLICATES FOLDERS)
+list(SORT FOLDERS ORDER DESCENDING)
+foreach(FOLDER IN LISTS FOLDERS)
+  execute_process(COMMAND rmdir "${FOLDER}" ERROR_QUIET)
+endforeach()
