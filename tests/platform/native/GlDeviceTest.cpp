@@ -23,14 +23,14 @@ struct CScreenVertex
 struct CLineVertex
 {
     float x, y, z;
-    uint32_t uiColour;
+    uint32_t m_uiColour;
 };
 
 // A screen vertex of its own colour and no picture.
 struct CTintVertex
 {
     float x, y, z, rhw;
-    uint32_t uiColour;
+    uint32_t m_uiColour;
 };
 
 struct CBallDraw
