@@ -74,6 +74,13 @@ TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsA
     EXPECT_EQ(Game.WaitForExit(10), 0) << Game.Log();
     EXPECT_FALSE(Has(Game.Log(), "ERROR")) << Game.Log();
 
+    // The installed level tool, given a level of the folder it starts in, finds the pictures of the installed game.
+    const std::string Here = std::filesystem::path(Elsewhere.Path()).parent_path().string();
+    std::filesystem::copy_file(REPOSITORY + "/data/tracks/06-overpass.txt", Here + "/mine.txt");
+    const CCommandResult Check = RunCommand("cd " + Here + " && " + Prefix + "/bin/trelvane-level check mine.txt");
+    EXPECT_EQ(Check.m_iExitCode, 0) << Check.m_Output;
+    EXPECT_EQ(Check.m_Output, "");
+
     // Uninstalling takes every file and the game's own folders, and leaves the folders others share.
     const std::string Stage = std::filesystem::path(Root.Path()).parent_path().string();
     const CCommandResult Uninstall = RunCommand("DESTDIR=" + Stage + " cmake --build " + BUILD + " --target uninstall");

@@ -1,5 +1,6 @@
 // trelvane-level: checks, draws and measures level files with the game's own reader and rules.
 #include "level/LevelCommands.h"
+#include "platform/native/DataFolder.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -38,6 +39,7 @@ int main(int iArgCount, char** ppArgs)
         std::cout << LEVEL_HELP;
         return EXIT_SUCCESS;
     }
+    FindToolData(); // the pictures that levels name
     if(Command == "check")
         return RunCheck(vRest);
     if(Command == "preview")

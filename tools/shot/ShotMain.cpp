@@ -4,6 +4,7 @@
 #include "net/Log.h"
 #include "platform/interfaces/Clock.h"
 #include "platform/interfaces/GameMatrix.h"
+#include "platform/native/DataFolder.h"
 #include "platform/native/PngFile.h"
 #include "shot/FrameGrab.h"
 #include "shot/ShotOptions.h"
@@ -89,6 +90,7 @@ int main(int iArgCount, char** ppArgs)
     std::string Error;
     if(!ParseShotOptions(iArgCount - 1, ppArgs + 1, Options, Error))
         return Fail(Error + " (usage: " + SHOT_USAGE + ")");
+    FindToolData(); // the pictures of the menus and of the level
     SetManualClock(0);
     SetLogSink([](const char*) {}); // a frame grab has no network to tell of
     std::srand(Options.m_uiSeed);

@@ -1,5 +1,7 @@
 #include "platform/native/DataFolder.h"
 
+#include "platform/interfaces/Paths.h"
+
 #include <filesystem>
 #include <system_error>
 
@@ -39,4 +41,15 @@ bool EnterDataFolder(std::string& MissingFolder)
         return true;
     MissingFolder = (Here / "data").string();
     return false;
+}
+
+void FindToolData()
+{
+    std::error_code Error;
+    const fs::path Here = fs::current_path(Error);
+    if(!Error && HoldsData(Here))
+        return;
+    const fs::path Installed = InstalledDataFolder();
+    if(!Installed.empty() && HoldsData(Installed))
+        SetDataRoot(Installed.lexically_normal().string());
 }

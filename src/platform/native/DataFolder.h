@@ -7,3 +7,7 @@
 // the data folder it looked for, when there is none, so that the game says so once instead of failing on every
 // file.
 bool EnterDataFolder(std::string& MissingFolder);
+
+// For the tools, which are given files by paths of the folder they are started in: data/ there comes first;
+// without one they read an installed game's data where it lies, and the working folder stays.
+void FindToolData();
