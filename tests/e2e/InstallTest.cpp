@@ -123,6 +123,7 @@ TEST(Install, ThePackageHoldsTheGameItsDataAndMenuEntryDependsOnItsLibrariesAndG
             "./usr/share/trelvane/data/Music/01-glass-garden.mp3\n", "./usr/share/applications/" + APP + ".desktop\n",
             "./usr/share/metainfo/" + APP + ".metainfo.xml\n",
             "./usr/share/icons/hicolor/256x256/apps/" + APP + ".png\n", "./usr/share/man/man6/trelvane.6.gz\n",
+            "./usr/share/man/man6/trelvane-bot.6.gz\n", "./usr/share/man/man6/trelvane-level.6.gz\n",
             "./usr/share/doc/trelvane/copyright\n"})
         EXPECT_TRUE(Has(Contents, File)) << File;
     EXPECT_FALSE(Has(Contents, "_tests")) << "test programs are not for players";

@@ -11,7 +11,7 @@ const char* const LEVEL_HELP =
     "usage: trelvane-level check FILE...\n"
     "       trelvane-level preview FILE OUT.png [--size N]\n"
     "       trelvane-level stats FILE [--seeds N] [--round R]\n"
-    "Run from the top of the game's folder, where data/ is.\n"
+    "Run where data/ is; installed, from any folder (the pictures then come from the installed game).\n"
     "  check    reports every problem of each level file as FILE:LINE:COLUMN: error|warning: text;\n"
     "           exits 1 when any error was found\n"
     "  preview  draws the level from above (tracks with start, end, direction and ball count, camera paths,\n"
