@@ -135,6 +135,6 @@ TEST(Install, ThePackageHoldsTheGameItsDataAndMenuEntryDependsOnItsLibrariesAndG
 
     const std::string PostInst = RunCommand("dpkg-deb -I " + Deb + " postinst").m_Output;
     EXPECT_TRUE(Has(PostInst, "setcap cap_net_bind_service=+ep /usr/bin/trelvane")) << PostInst;
-    const CCommandResult Lint = RunCommand("lintian --no-tag-display-limit " + Deb);
+    const CCommandResult Lint = RunCommand("lintian --tag-display-limit 0 " + Deb);
     EXPECT_EQ(Lines(Lint.m_Output, "E:"), "") << Lint.m_Output;
 }
