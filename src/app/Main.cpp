@@ -49,12 +49,12 @@ int RunGame(CSdlWindow& Window)
 int main()
 {
     std::srand(timeGetTime()); // the one seeding: every rand of the game draws from this sequence
+    SetErrorHandler(ShowErrorInMessageBox);
     std::string MissingFolder;
     if(!EnterDataFolder(MissingFolder))
     {
         // Without its data every picture, sound and level would fail one by one; one message says it all.
-        const std::string Text = "ERROR: " + MissingFolder + " doesn't exist.";
-        ShowErrorInMessageBox(Text.c_str());
+        ShowErrorf(MISSING_FILE_ERROR, MissingFolder.c_str());
         return 1;
     }
     CSdlWindow Window;
@@ -65,7 +65,6 @@ int main()
         ShowErrorInMessageBox("CreateWindow (for main window) failed");
         return 0;
     }
-    SetErrorHandler(ShowErrorInMessageBox);
     CSdlInput Input;
     Input.Listen(Window);
     InitInput();

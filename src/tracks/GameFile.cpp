@@ -11,7 +11,7 @@ bool OpenGameFile(const char* pFileName, std::ifstream& Stream)
     std::FILE* pFile = std::fopen(Path.c_str(), "r");
     if(!pFile)
     {
-        ShowErrorf("ERROR: %s doesn't exist.", pFileName);
+        ShowErrorf(MISSING_FILE_ERROR, pFileName);
         return false;
     }
     std::fclose(pFile);
