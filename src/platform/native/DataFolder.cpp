@@ -9,10 +9,19 @@ namespace
 {
 namespace fs = std::filesystem;
 
+// False for the empty path, which stands for a folder that could not be found.
 bool HoldsData(const fs::path& Folder)
 {
     std::error_code Error;
-    return fs::is_directory(Folder / "data", Error);
+    return !Folder.empty() && fs::is_directory(Folder / "data", Error);
+}
+
+// Empty when the folder can't be read, for instance after it was removed.
+fs::path WorkingFolder()
+{
+    std::error_code Error;
+    const fs::path Folder = fs::current_path(Error);
+    return Error ? fs::path() : Folder;
 }
 
 // share/trelvane as seen from the folder of the running program, when the program is an installed one.
@@ -30,14 +39,14 @@ bool EnterDataFolder(std::string& MissingFolder)
 {
     std::error_code Error;
     const fs::path Installed = InstalledDataFolder();
-    if(!Installed.empty() && HoldsData(Installed))
+    if(HoldsData(Installed))
     {
         fs::current_path(Installed, Error);
         if(!Error)
             return true;
     }
-    const fs::path Here = fs::current_path(Error);
-    if(!Error && HoldsData(Here))
+    const fs::path Here = WorkingFolder();
+    if(HoldsData(Here))
         return true;
     MissingFolder = (Here / "data").string();
     return false;
@@ -45,11 +54,10 @@ bool EnterDataFolder(std::string& MissingFolder)
 
 void FindToolData()
 {
-    std::error_code Error;
-    const fs::path Here = fs::current_path(Error);
-    if(!Error && HoldsData(Here))
+    const fs::path Here = WorkingFolder();
+    if(HoldsData(Here))
         return;
     const fs::path Installed = InstalledDataFolder();
-    if(!Installed.empty() && HoldsData(Installed))
+    if(HoldsData(Installed))
         SetDataRoot(Installed.lexically_normal().string());
 }
