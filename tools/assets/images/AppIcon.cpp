@@ -2,6 +2,7 @@
 
 #include "Gradients.h"
 #include "Marbles.h"
+#include "Shapes.h"
 #include "Theme.h"
 
 #include <cmath>
@@ -19,7 +20,7 @@ void IconChain(CCanvas& Canvas, float fScale)
     for(int i = 0; i < ICON_MARBLES; ++i)
     {
         float fT = static_cast<float>(i) / (ICON_MARBLES - 1);
-        float fAngle = (-150.0f + 300.0f * fT) * 3.14159265f / 180.0f;
+        float fAngle = (-150.0f + 300.0f * fT) * PI / 180.0f;
         float fReach = (88.0f - 36.0f * fT) * fScale;
         float fRadius = (25.0f - 10.0f * fT) * fScale;
         DrawMarble(Canvas, 128.0f * fScale + fReach * std::cos(fAngle), 128.0f * fScale + fReach * std::sin(fAngle),

@@ -13,7 +13,6 @@ namespace art
 {
 namespace
 {
-constexpr float PI = 3.14159265f;
 constexpr float CENTRE = 16.0f; // centre of the face
 const CRgba INK = Hex(0x1a0e08);
 

@@ -16,11 +16,11 @@
 #include "PngFile.h"
 #include "Text.h"
 #include "TgaFile.h"
+#include "common/NumberParse.h"
 
 #include <SDL.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -39,11 +39,10 @@ bool ParseIcon(int iArgCount, char** ppArgs, COptions& Options)
 {
     if(iArgCount != 4)
         return false;
-    char* pEnd = nullptr;
-    long lSize = std::strtol(ppArgs[2], &pEnd, 10);
-    if(*pEnd != '\0' || lSize < 16 || lSize > 1024)
+    uint32_t uiSize = 0;
+    if(!ParseU32(ppArgs[2], 16, 1024, uiSize))
         return false;
-    Options.m_iIconSize = static_cast<int>(lSize);
+    Options.m_iIconSize = static_cast<int>(uiSize);
     Options.m_IconFile = ppArgs[3];
     return true;
 }

@@ -19,7 +19,6 @@ namespace art
 {
 namespace
 {
-constexpr float PI = 3.14159265f;
 constexpr float TITLE_CENTRE = 262; // middle of the band between the two blocks of text
 
 void Subtitle(CCanvas& Canvas, const std::string& Text)

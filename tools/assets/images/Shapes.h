@@ -20,6 +20,9 @@ struct CShape
     std::function<float(float fX, float fY)> m_fnDistance;
 };
 
+// Angles of arcs are in radians.
+constexpr float PI = 3.14159265f;
+
 CShape Circle(float fCx, float fCy, float fRadius);
 CShape Ellipse(float fCx, float fCy, float fRx, float fRy);
 CShape RoundRect(float fLeft, float fTop, float fWidth, float fHeight, float fRadius);
