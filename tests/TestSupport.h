@@ -20,6 +20,7 @@ public:
     explicit CTempFile(const std::string& Contents, const std::string& Name = "level.txt");
     ~CTempFile();
     const char* Path() const { return m_Path.c_str(); }
+    const std::string& Folder() const { return m_Folder; }
 
 private:
     std::string m_Folder;

@@ -140,8 +140,8 @@ TEST(Assets, SoundsMusicAndEveryLevelsBackgroundAreThere)
 TEST(Assets, TheGeneratorsMakeTheSameBytesOnEveryRun)
 {
     CTempFile First("", "unused"), Second("", "unused");
-    const std::string FirstDir = std::filesystem::path(First.Path()).parent_path();
-    const std::string SecondDir = std::filesystem::path(Second.Path()).parent_path();
+    const std::string& FirstDir = First.Folder();
+    const std::string& SecondDir = Second.Folder();
     for(const std::string& Dir : {FirstDir, SecondDir})
     {
         ASSERT_EQ(RunCommand("'" TRELVANE_IMAGES_BINARY "' '" + Dir + "'").m_iExitCode, 0);

@@ -36,9 +36,9 @@ std::string Lines(const std::string& Text, const std::string& Start)
 TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsAndManualAndUninstallsCleanly)
 {
     CTempFile Root("", "root/.keep"), Elsewhere("", "notes.txt");
-    const std::string Prefix = std::filesystem::path(Root.Path()).parent_path().string() + "/usr";
-    const CCommandResult Install = RunCommand("DESTDIR=" + std::filesystem::path(Root.Path()).parent_path().string() +
-                                              " cmake --install " + BUILD + " --prefix /usr");
+    const std::string Stage = std::filesystem::path(Root.Path()).parent_path().string();
+    const std::string Prefix = Stage + "/usr";
+    const CCommandResult Install = RunCommand("DESTDIR=" + Stage + " cmake --install " + BUILD + " --prefix /usr");
     ASSERT_EQ(Install.m_iExitCode, 0) << Install.m_Output;
 
     for(const char* pSize : {"48", "128", "256"})
@@ -65,8 +65,7 @@ TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsA
 
     // Started from a folder with no data in it, the installed game plays with its own.
     CGameSession Game;
-    ASSERT_TRUE(Game.Start(Prefix + "/bin/trelvane", std::filesystem::path(Elsewhere.Path()).parent_path().string()))
-        << Game.Log();
+    ASSERT_TRUE(Game.Start(Prefix + "/bin/trelvane", Elsewhere.Folder())) << Game.Log();
     CPicture Logo;
     ASSERT_TRUE(ReadPicture(REPOSITORY + "/data/menus/images/kestrun.png", Logo));
     EXPECT_TRUE(Game.WaitForScreen([&](const CPicture& Screen) { return Screen.Likeness(Logo, 0, 0) > 0.95; }, 15));
@@ -75,14 +74,13 @@ TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsA
     EXPECT_FALSE(Has(Game.Log(), "ERROR")) << Game.Log();
 
     // The installed level tool, given a level of the folder it starts in, finds the pictures of the installed game.
-    const std::string Here = std::filesystem::path(Elsewhere.Path()).parent_path().string();
-    std::filesystem::copy_file(REPOSITORY + "/data/tracks/06-overpass.txt", Here + "/mine.txt");
-    const CCommandResult Check = RunCommand("cd " + Here + " && " + Prefix + "/bin/trelvane-level check mine.txt");
+    std::filesystem::copy_file(REPOSITORY + "/data/tracks/06-overpass.txt", Elsewhere.Folder() + "/mine.txt");
+    const CCommandResult Check =
+        RunCommand("cd " + Elsewhere.Folder() + " && " + Prefix + "/bin/trelvane-level check mine.txt");
     EXPECT_EQ(Check.m_iExitCode, 0) << Check.m_Output;
     EXPECT_EQ(Check.m_Output, "");
 
     // Uninstalling takes every file and the game's own folders, and leaves the folders others share.
-    const std::string Stage = std::filesystem::path(Root.Path()).parent_path().string();
     const CCommandResult Uninstall = RunCommand("DESTDIR=" + Stage + " cmake --build " + BUILD + " --target uninstall");
     ASSERT_EQ(Uninstall.m_iExitCode, 0) << Uninstall.m_Output;
     EXPECT_EQ(RunCommand("find " + Prefix + " ! -type d").m_Output, "");
@@ -93,7 +91,7 @@ TEST(Install, TheInstalledGameStartsFromAnyFolderOnItsLogoWithItsMenuEntryIconsA
 TEST(Install, AGameWithoutDataSaysSoOnceAndEnds)
 {
     CTempFile Empty("", "notes.txt");
-    const std::string Folder = std::filesystem::path(Empty.Path()).parent_path().string();
+    const std::string& Folder = Empty.Folder();
     // Without a display server the error box can't open, so the line on standard error is all there is.
     const CCommandResult Run =
         RunCommand("cd " + Folder + " && SDL_VIDEODRIVER=dummy timeout 20 " + std::string(TRELVANE_BINARY));
@@ -104,7 +102,7 @@ TEST(Install, AGameWithoutDataSaysSoOnceAndEnds)
 TEST(Install, ThePackageHoldsTheGameItsDataAndMenuEntryDependsOnItsLibrariesAndGrantsPort666)
 {
     CTempFile Out("", "notes.txt");
-    const std::string Folder = std::filesystem::path(Out.Path()).parent_path().string();
+    const std::string& Folder = Out.Folder();
     const CCommandResult Pack = RunCommand("cpack -G DEB --config " + BUILD + "/CPackConfig.cmake -B " + Folder);
     ASSERT_EQ(Pack.m_iExitCode, 0) << Pack.m_Output;
     const std::string Deb = Folder + "/trelvane_" TRELVANE_VERSION "_amd64.deb";
